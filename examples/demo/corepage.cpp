@@ -86,3 +86,5 @@ void CorePage::writeArtifacts(const QDir &outputDir, QStringList *written)
         *written << file.fileName();
     }
 }
+
+DEMO_REGISTER_PAGE(CorePage, 10)

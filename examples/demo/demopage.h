@@ -30,7 +30,20 @@ public:
     }
 };
 
-//! Creates every page of the demo, in tab order.
+#include <functional>
+
+using DemoPageFactory = std::function<DemoPage *(QWidget *parent)>;
+
+//! Adds a page to the demo; pages appear in ascending \a order.
+bool registerDemoPage(int order, DemoPageFactory factory);
+
+//! Creates every registered page of the demo, in tab order.
 QList<DemoPage *> createDemoPages(QWidget *parent);
+
+//! Registers page class \a Page (constructible from a parent widget) at \a order.
+#define DEMO_REGISTER_PAGE(Page, order) \
+    static const bool demoPageRegistered_##Page = registerDemoPage(order, [](QWidget *parent) -> DemoPage * { \
+        return new Page(parent); \
+    });
 
 #endif // DEMO_DEMOPAGE_H
