@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "log.h"
+#include "log_p.h"
 
 #include <QDateTime>
 
@@ -83,9 +84,11 @@ std::string Log::oLogLevelToString(TLogLevel level)
     return levelText(level);
 }
 
-QString Log::oComposeLine(TLogLevel level, const std::string &module, const QDateTime &now,
-                          const char *format, va_list args)
+namespace Internal {
+
+QString composeLogLine(int level, const std::string &module, const QDateTime &now, const char *format, va_list args)
 {
+    constexpr int MessageBufferSize = Log::MessageBufferSize;
     char message[MessageBufferSize];
     int length = 0;
     if (format) {
@@ -117,11 +120,13 @@ QString Log::oComposeLine(TLogLevel level, const std::string &module, const QDat
     return line;
 }
 
+} // namespace Internal
+
 void Log::vLog(TLogLevel level, std::string module, const char *format, ...)
 {
     va_list args;
     va_start(args, format);
-    const QString line = oComposeLine(level, module, QDateTime::currentDateTime(), format, args);
+    const QString line = Internal::composeLogLine(level, module, QDateTime::currentDateTime(), format, args);
     va_end(args);
     // Deliberately dropped: lines reach listeners only when the host emits
     // emitLastLogged() itself.

@@ -7,10 +7,7 @@
 #include <QObject>
 #include <QString>
 
-#include <cstdarg>
 #include <string>
-
-class QDateTime;
 
 namespace Utils {
 namespace LoggingSystem {
@@ -56,15 +53,6 @@ Q_SIGNALS:
 
 protected:
     std::string oLogLevelToString(TLogLevel level);
-
-    /*!
-        Builds the line vLog() composes, for the given local date and time.
-        A message longer than the buffer is cut to MessageBufferSize - 1 bytes,
-        shortened further to the last whole UTF-8 character; a format the
-        formatter rejects gives an empty message.
-    */
-    static QString oComposeLine(TLogLevel level, const std::string &module, const QDateTime &now,
-                                const char *format, va_list args);
 
 private:
     Log();

@@ -1,5 +1,129 @@
-// placeholder
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/probes.h"
+
 #include <QtTest>
-class tst_Probes : public QObject { Q_OBJECT private Q_SLOTS: void x() { QVERIFY(true); } };
+
+#include <cstdlib>
+#include <limits>
+
+namespace {
+#if defined(_WIN32)
+UtilsUInt64 frequency()
+{
+    LARGE_INTEGER f;
+    QueryPerformanceFrequency(&f);
+    return UtilsUInt64(f.QuadPart);
+}
+#else
+// Elsewhere the probes count in ticks of 100 ns.
+UtilsUInt64 frequency()
+{
+    return 10000000ULL;
+}
+#endif
+} // namespace
+
+// The probes keep hidden process-wide state; the first function must run before
+// anything takes a memory reading.
+class tst_Probes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void gapBeforeAnyUsageIsTheWholeUsage();
+    void usageInKibibytesAndGap();
+    void gapFollowsAllocations();
+    void timeArithmetic_data();
+    void timeArithmetic();
+    void stopWatch();
+};
+
+void tst_Probes::gapBeforeAnyUsageIsTheWholeUsage()
+{
+    const double gap = GetMemoryGapBytes();
+    const double usage = GetMemoryUsageBytes();
+    QVERIFY(usage > 0.0);
+    // Against a kept reading of 0 the gap is the process's whole usage.
+    QVERIFY2(std::abs(gap - usage) < 1024.0 * 1024.0, qPrintable(QStringLiteral("%1 vs %2").arg(gap).arg(usage)));
+}
+
+void tst_Probes::usageInKibibytesAndGap()
+{
+    const double bytes = GetMemoryUsageBytes();
+    const double kib = GetMemoryUsageKBytes();
+    QCOMPARE(kib, bytes * 0.0009765625);
+    QCOMPARE(GetMemoryGapBytes(), 0.0);
+    QCOMPARE(GetMemoryGapKBytes(), 0.0);
+    QCOMPARE(GetMemoryGapBytes(), 0.0); // gap calls do not move the reference
+}
+
+void tst_Probes::gapFollowsAllocations()
+{
+    const double mib = 1024.0 * 1024.0;
+    GetMemoryUsageBytes();
+    void *block = std::malloc(64 * 1024 * 1024);
+    QVERIFY(block);
+    const double grown = GetMemoryGapBytes();
+    QVERIFY2(grown >= 63 * mib, qPrintable(QString::number(grown)));
+    QCOMPARE(GetMemoryGapKBytes(), grown * 0.0009765625);
+    std::free(block);
+    QVERIFY2(GetMemoryGapBytes() < 8 * mib, qPrintable(QString::number(GetMemoryGapBytes())));
+}
+
+void tst_Probes::timeArithmetic_data()
+{
+    QTest::addColumn<UtilsUInt64>("start");
+    QTest::addColumn<UtilsUInt64>("stop");
+    QTest::addColumn<quint32>("ms");
+    QTest::addColumn<quint32>("us");
+
+    const UtilsUInt64 second = frequency() * 1000ULL;
+    const UtilsUInt64 max = std::numeric_limits<UtilsUInt64>::max();
+    QTest::newRow("same stamp") << UtilsUInt64(12345) << UtilsUInt64(12345) << 0u << 0u;
+    QTest::newRow("one second") << UtilsUInt64(0) << second << 1000u << 1000000u;
+    QTest::newRow("one second later on") << second * 7 << second * 8 << 1000u << 1000000u;
+    QTest::newRow("half a millisecond truncates") << UtilsUInt64(0) << second / 2000 << 0u << 500u;
+    // A stop before the start wraps to a huge difference, cut to 32 bits.
+    const UtilsUInt64 wrapped = max - 999; // (1000 - 2000) mod 2^64
+    QTest::newRow("stop before start") << UtilsUInt64(2000) << UtilsUInt64(1000)
+                                       << quint32(wrapped / frequency())
+                                       << quint32((wrapped * 1000ULL) / frequency());
+    // The microsecond product wraps in 64 bits before the division.
+    const UtilsUInt64 big = max / 1000ULL + 5;
+    QTest::newRow("microsecond product wraps") << UtilsUInt64(0) << big << quint32(big / frequency())
+                                               << quint32((big * 1000ULL) / frequency());
+}
+
+void tst_Probes::timeArithmetic()
+{
+    QFETCH(UtilsUInt64, start);
+    QFETCH(UtilsUInt64, stop);
+    QFETCH(quint32, ms);
+    QFETCH(quint32, us);
+    QCOMPARE(GetTimeMs(start, stop), ms);
+    QCOMPARE(GetTimeUs(start, stop), us);
+}
+
+void tst_Probes::stopWatch()
+{
+    vStartTimer(nullptr); // allowed
+    UtilsUInt64 start = 0;
+    vStartTimer(&start);
+    QVERIFY(start != 0);
+    QVERIFY(start % 1000 == 0); // stamps are ticks times 1000
+
+    QTest::qSleep(20);
+    UtilsUInt64 stop = 0;
+    vStopTimer(&stop);
+    QVERIFY(stop > start);
+    const quint32 ms = GetTimeMs(start, stop);
+    QVERIFY2(ms >= 19 && ms < 10000, qPrintable(QString::number(ms)));
+
+    // vStopTimer leaves the kept start alone: the timestamp still counts from it.
+    const quint32 sinceStart = ulTimestampUs();
+    QVERIFY2(sinceStart >= GetTimeUs(start, stop), qPrintable(QString::number(sinceStart)));
+    QVERIFY(ulTimestampUs() >= sinceStart);
+}
+
 QTEST_GUILESS_MAIN(tst_Probes)
 #include "tst_probes.moc"
