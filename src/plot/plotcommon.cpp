@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "plot/plotcommon_p.h"
+
+#include <QCoreApplication>
+#include <QSettings>
+
+Q_LOGGING_CATEGORY(lcUtilsPlot, "utils.plot", QtWarningMsg)
+
+namespace Utils {
+namespace PlotCommon {
+
+namespace {
+const char *const kAxisTypeKey = "plot/xPlotAxisType";
+}
+
+double centreZoomStep(double span, bool *ultraZoomed)
+{
+    struct Row
+    {
+        double atLeast;
+        double step;
+    };
+    static const Row rows[] = {
+        {1.5, 0.5}, {1.0, 0.2}, {0.3, 0.1}, {0.18, 0.05}, {0.1, 0.02},
+        {0.03, 0.01}, {0.018, 0.005}, {0.01, 0.002}, {0.008, 0.001},
+    };
+    if (ultraZoomed)
+        *ultraZoomed = span < 0.1;
+    for (const Row &row : rows) {
+        if (span >= row.atLeast)
+            return row.step;
+    }
+    return 0.0005;
+}
+
+double quietStep(double span)
+{
+    if (span >= 1.0)
+        return 0.2;
+    if (span >= 0.3)
+        return 0.1;
+    if (span >= 0.18)
+        return 0.05;
+    if (span >= 0.1)
+        return 0.02;
+    if (span >= 0.03)
+        return 0.01;
+    if (span >= 0.018)
+        return 0.005;
+    if (span >= 0.01)
+        return 0.002;
+    return 0.001;
+}
+
+QString settingsFileName()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/settings.ini");
+}
+
+// QSettings shares one parsed copy per file inside the process and re-reads it
+// only when the file changed on disk, so reading per label stays cheap.
+int xPlotAxisType()
+{
+    QSettings settings(settingsFileName(), QSettings::IniFormat);
+    return settings.value(QLatin1String(kAxisTypeKey), 0).toInt();
+}
+
+void setXPlotAxisType(int type)
+{
+    QSettings settings(settingsFileName(), QSettings::IniFormat);
+    settings.setValue(QLatin1String(kAxisTypeKey), type);
+    settings.sync();
+}
+
+} // namespace PlotCommon
+} // namespace Utils

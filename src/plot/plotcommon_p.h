@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef UTILS_PLOTCOMMON_P_H
+#define UTILS_PLOTCOMMON_P_H
+
+// Internal to the plot tools: not installed.
+
+#include <QLoggingCategory>
+#include <QString>
+
+Q_DECLARE_LOGGING_CATEGORY(lcUtilsPlot)
+
+namespace Utils {
+namespace PlotCommon {
+
+/*!
+    Major step for a value span as the plot's centre zoom uses it. Sets
+    \a ultraZoomed when the span is below 0.1 (the caller then tells listeners).
+*/
+double centreZoomStep(double span, bool *ultraZoomed);
+
+/*!
+    The quieter rule of the zoomer and the panner for spans below 1.5: never
+    reports deep zoom and stops at 0.001, where the centre zoom goes on to 0.0005.
+*/
+double quietStep(double span);
+
+//! Step re-applied by the zoomer and the panner when the value span is below 4.0.
+inline double smallSpanStep(double span)
+{
+    return span >= 1.5 ? 0.5 : quietStep(span);
+}
+
+//! "<application dir>/settings.ini", the one INI file of the library.
+QString settingsFileName();
+//! plot/xPlotAxisType: 0 = "Time", 1 = "Date + Time"; 0 when missing.
+int xPlotAxisType();
+void setXPlotAxisType(int type);
+
+} // namespace PlotCommon
+} // namespace Utils
+
+#endif // UTILS_PLOTCOMMON_P_H

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "plot/timescaledraw.h"
+
+#include "plot/plotcommon_p.h"
+
+#include <QDateTime>
+
+#include <cmath>
+
+namespace Utils {
+
+TimeScaleDraw::TimeScaleDraw()
+{
+    setLabelRotation(0.0);
+    setSpacing(2.0);
+}
+
+TimeScaleDraw::~TimeScaleDraw() = default;
+
+QwtText TimeScaleDraw::label(double value) const
+{
+    if (m_bDisplayValue)
+        return QwtText(QString::number(value, 'g', 6));
+
+    const QString prefix = PlotCommon::xPlotAxisType() == 1 ? QStringLiteral("dd.MM.yyyy \r\n") : QString();
+    const double span = std::fabs(scaleDiv().range());
+    QString format;
+    if (span < 60000.0)
+        format = prefix + QStringLiteral("hh:mm:ss");
+    else if (span < 8.64e7)
+        format = prefix + QStringLiteral("hh:mm");
+    else
+        format = QStringLiteral("dd.MM.yyyy");
+    // Truncation to whole milliseconds; NaN and out-of-range values give 0.
+    qint64 ms = 0;
+    if (std::isfinite(value) && std::fabs(value) < 9.0e18)
+        ms = qint64(value);
+    return QwtText(QDateTime::fromMSecsSinceEpoch(ms).toString(format));
+}
+
+void TimeScaleDraw::setDisplayValue(bool displayValue)
+{
+    if (m_bDisplayValue == displayValue)
+        return;
+    m_bDisplayValue = displayValue;
+    invalidateCache();
+}
+
+bool TimeScaleDraw::displayValue() const
+{
+    return m_bDisplayValue;
+}
+
+void TimeScaleDraw::vRefresh()
+{
+    invalidateCache();
+}
+
+} // namespace Utils
+
+ExtScaleDraw::ExtScaleDraw() = default;
+
+ExtScaleDraw::~ExtScaleDraw() = default;
+
+QwtText ExtScaleDraw::label(double value) const
+{
+    return QwtText(QString::number(value, 'g', 7));
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef UTILS_TIMESCALEDRAW_H
+#define UTILS_TIMESCALEDRAW_H
+
+#include "utils_export.h"
+
+#include <qwt_scale_draw.h>
+
+namespace Utils {
+
+/*!
+    \brief Labels of the bottom axis: times in milliseconds since the epoch.
+
+    The format follows the span of the scale: "hh:mm:ss" below one minute,
+    "hh:mm" below one day, "dd.MM.yyyy" from one day on. In "Date + Time" mode
+    (plot/xPlotAxisType = 1 in the settings file) the date is put on a line above
+    the time. With display value set, the labels are plain numbers instead.
+*/
+class UTILS_EXPORT TimeScaleDraw : public QwtScaleDraw
+{
+public:
+    TimeScaleDraw();
+    ~TimeScaleDraw() override;
+
+    QwtText label(double value) const override;
+
+    void setDisplayValue(bool displayValue);
+    bool displayValue() const;
+
+    //! Drops the cached labels, e.g. after the axis type changed.
+    void vRefresh();
+
+private:
+    bool m_bDisplayValue = false;
+};
+
+} // namespace Utils
+
+/*!
+    \brief yLeft labels with seven significant digits, installed in deep zoom.
+*/
+class UTILS_EXPORT ExtScaleDraw : public QwtScaleDraw
+{
+public:
+    ExtScaleDraw();
+    ~ExtScaleDraw() override;
+
+    QwtText label(double value) const override;
+};
+
+#endif // UTILS_TIMESCALEDRAW_H
