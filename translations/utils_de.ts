@@ -1,0 +1,26 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>AssistantManager</name>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Do you want to save the settings ?</source>
+        <translation>Möchten Sie die Einstellungen speichern ?</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::DataFrameSenderUi</name>
+    <message>
+        <source>Sending...</source>
+        <translation>Senden...</translation>
+    </message>
+    <message>
+        <source>Step %1/%2</source>
+        <translation>Schritt %1/%2</translation>
+    </message>
+</context>
+</TS>
