@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "thresholds/thresholddatamanager.h"
+#include "thresholds/thresholdmultimanager.h"
+#include "thresholds/thresholdmultimanagercolor.h"
+
+#include <QtTest>
+
+using Utils::ThresholdDataManager;
+using Utils::ThresholdMultiManager;
+using Utils::ThresholdMultiManagerColor;
+using Utils::ThresholdsData;
+
+class tst_ThresholdManager : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void freshOutputsCarryTheZeroPoint();
+    void outputNumbers_data();
+    void outputNumbers();
+    void signalCarriesZeroBasedPosition();
+    void setOutputsReplacesRecords();
+    void forwardsToTheRecord();
+    void multiAddComponentAffectsLaterRecords();
+    void multiForwarding();
+    void multiUncheckedOperationsIgnoreBadOutputs_data();
+    void multiUncheckedOperationsIgnoreBadOutputs();
+    void colourManager();
+};
+
+void tst_ThresholdManager::freshOutputsCarryTheZeroPoint()
+{
+    ThresholdDataManager manager;
+    QCOMPARE(manager.outputs(), 0);
+    manager.setOutputs(2);
+    QCOMPARE(manager.outputs(), 2);
+    for (unsigned int output : {1u, 2u}) {
+        for (int c = ThresholdsData::Hue; c <= ThresholdsData::Extra3; ++c)
+            QCOMPARE(manager.toHexString(output, ThresholdsData::Component(c)), std::string("8000800080008000"));
+    }
+
+    ThresholdMultiManager multi(3);
+    multi.setOutputs(1);
+    QCOMPARE(multi.toHexString(1, 2), std::string("8000800080008000"));
+    QVERIFY(!multi.hasWindows(1, 0));
+}
+
+void tst_ThresholdManager::outputNumbers_data()
+{
+    QTest::addColumn<uint>("output");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("0 (outputs count from 1)") << 0u << false;
+    QTest::newRow("1") << 1u << true;
+    QTest::newRow("2") << 2u << true;
+    QTest::newRow("3, one past the last") << 3u << false;
+    QTest::newRow("largest unsigned") << std::numeric_limits<uint>::max() << false;
+}
+
+void tst_ThresholdManager::outputNumbers()
+{
+    QFETCH(uint, output);
+    QFETCH(bool, valid);
+
+    ThresholdDataManager manager;
+    manager.setOutputs(2);
+    QSignalSpy spy(&manager, &ThresholdDataManager::emitOutputUpdated);
+    QVERIFY(spy.isValid());
+
+    manager.setLow(output, ThresholdsData::Red, 10, false, false);
+    manager.setHigh(output, ThresholdsData::Red, 20, false, false);
+    manager.setNoise(output, ThresholdsData::Lightness, 3);
+    manager.setFromHexString(output, ThresholdsData::Saturation, "0014000A00050000");
+    QCOMPARE(spy.count(), valid ? 4 : 0);
+    QCOMPARE(manager.low(output, ThresholdsData::Red), valid ? 10.0 : -1.0);
+    QCOMPARE(manager.high(output, ThresholdsData::Red), valid ? 20.0 : -1.0);
+    QCOMPARE(manager.noise(output, ThresholdsData::Lightness), valid ? 3 : -1);
+    QCOMPARE(manager.toHexString(output, ThresholdsData::Red), valid ? std::string("80148014800A800A") : std::string());
+
+    ThresholdMultiManager multi(1);
+    multi.setOutputs(2);
+    QSignalSpy multiSpy(&multi, &ThresholdMultiManager::emitOutputUpdated);
+    multi.setLow(output, 0, 1.0);
+    multi.setHigh(output, 0, 2.0);
+    multi.setMiddle(output, 0, 1.5);
+    multi.setNoise(output, 0, 1);
+    multi.setFromValues(output, 0, 0x8003, 0x8002, 0x8001, 0);
+    QCOMPARE(multiSpy.count(), valid ? 5 : 0);
+    QCOMPARE(multi.low(output, 0), valid ? 1.0 : -1.0);
+    QCOMPARE(multi.high(output, 0), valid ? 2.0 : -1.0);
+    QCOMPARE(multi.noise(output, 0), valid ? 1 : -1);
+    QCOMPARE(multi.toHexString(output, 0), valid ? std::string("8003800280018000") : std::string());
+}
+
+void tst_ThresholdManager::signalCarriesZeroBasedPosition()
+{
+    ThresholdDataManager manager;
+    manager.setOutputs(3);
+    QSignalSpy spy(&manager, &ThresholdDataManager::emitOutputUpdated);
+    manager.setLow(2, ThresholdsData::Red, 5, false, false);
+    manager.setNoise(3, ThresholdsData::Hue, 1);
+    manager.setNoise(1, ThresholdsData::Hue, 1);
+    QCOMPARE(spy.count(), 3);
+    QCOMPARE(spy.at(0).at(0).toUInt(), 1u);
+    QCOMPARE(spy.at(1).at(0).toUInt(), 2u);
+    QCOMPARE(spy.at(2).at(0).toUInt(), 0u);
+
+    ThresholdMultiManagerColor colour(1);
+    colour.setOutputs(2);
+    QSignalSpy colourSpy(&colour, &ThresholdMultiManagerColor::emitOutputUpdated);
+    colour.setColorBlueHighh(2, 0, 8.0);
+    QCOMPARE(colourSpy.count(), 1);
+    QCOMPARE(colourSpy.at(0).at(0).toUInt(), 1u);
+
+    // A null subject is ignored.
+    manager.update(nullptr);
+    QCOMPARE(spy.count(), 3);
+}
+
+void tst_ThresholdManager::setOutputsReplacesRecords()
+{
+    ThresholdDataManager manager;
+    manager.setOutputs(2);
+    manager.setHigh(1, ThresholdsData::Blue, 100, false, false);
+    manager.setOutputs(2); // the same count still starts afresh
+    QCOMPARE(manager.high(1, ThresholdsData::Blue), 0.0);
+
+    manager.setOutputs(0);
+    QCOMPARE(manager.outputs(), 0);
+    QCOMPARE(manager.low(1, ThresholdsData::Red), -1.0);
+    QCOMPARE(manager.toHexString(1, ThresholdsData::Red), std::string());
+
+    manager.setOutputs(-2);
+    QCOMPARE(manager.outputs(), -2);
+    QCOMPARE(manager.low(1, ThresholdsData::Red), -1.0);
+}
+
+void tst_ThresholdManager::forwardsToTheRecord()
+{
+    ThresholdDataManager manager;
+    manager.setOutputs(1);
+    // Clamping, coupling and string reading are the record's.
+    manager.setHigh(1, ThresholdsData::Red, 600, false, false);
+    QCOMPARE(manager.high(1, ThresholdsData::Red), 512.0);
+    manager.setHigh(1, ThresholdsData::Red, 600, true, false);
+    QCOMPARE(manager.high(1, ThresholdsData::Red), 600.0);
+    manager.setFromHexString(1, ThresholdsData::Saturation, "8123856789AB0000");
+    QCOMPARE(manager.high(1, ThresholdsData::Saturation), 510.0); // 0x8567 - 0x8000 = 1383, clamped
+    QCOMPARE(manager.low(1, ThresholdsData::Saturation), 510.0);
+    QCOMPARE(manager.noise(1, ThresholdsData::Saturation), 0x8123 - 0x8567);
+    QCOMPARE(manager.noise(1, ThresholdsData::Red), -1);
+}
+
+void tst_ThresholdManager::multiAddComponentAffectsLaterRecords()
+{
+    ThresholdMultiManager manager(2);
+    QCOMPARE(manager.getComponentCount(), 2);
+    manager.setOutputs(1);
+    manager.addComponent();
+    QCOMPARE(manager.getComponentCount(), 3);
+    QCOMPARE(manager.low(1, 2), -1.0);
+    QCOMPARE(manager.toHexString(1, 2), std::string());
+
+    manager.setOutputs(1);
+    QCOMPARE(manager.low(1, 2), 0.0);
+    QCOMPARE(manager.toHexString(1, 2), std::string("8000800080008000"));
+
+    ThresholdMultiManagerColor colour(0);
+    colour.setOutputs(1);
+    colour.addComponent();
+    QCOMPARE(colour.getComponentCount(), 1);
+    colour.setNoise(1, 0, 4);
+    QCOMPARE(colour.noise(1, 0), -1);
+    colour.setOutputs(1);
+    colour.setNoise(1, 0, 4);
+    QCOMPARE(colour.noise(1, 0), 4);
+}
+
+void tst_ThresholdManager::multiForwarding()
+{
+    ThresholdMultiManager manager(2);
+    manager.setOutputs(2);
+    manager.setThresholdConstant(2, 1, 0);
+    manager.setLow(2, 1, 3.0);
+    manager.setNoise(2, 1, 5);
+    QCOMPARE(manager.toHexString(2, 1), std::string("0005000000030000"));
+
+    manager.setHasWindows(2, 1, true);
+    QVERIFY(manager.hasWindows(2, 1));
+    QVERIFY(!manager.hasWindows(1, 1));
+    QVERIFY(!manager.hasWindows(2, 2));
+
+    // Words are unsigned numbers: 0xFFFF is 65535, not -1.
+    manager.setFromValues(1, 0, 0xFFFF, 0xFFFF, 0x8000, 0);
+    QCOMPARE(manager.high(1, 0), 32767.0);
+    QCOMPARE(manager.low(1, 0), 0.0);
+    QCOMPARE(manager.noise(1, 0), 0);
+}
+
+void tst_ThresholdManager::multiUncheckedOperationsIgnoreBadOutputs_data()
+{
+    QTest::addColumn<int>("output");
+    QTest::newRow("0") << 0;
+    QTest::newRow("negative") << -1;
+    QTest::newRow("one past the last") << 3;
+    QTest::newRow("largest int") << std::numeric_limits<int>::max();
+}
+
+void tst_ThresholdManager::multiUncheckedOperationsIgnoreBadOutputs()
+{
+    QFETCH(int, output);
+    ThresholdMultiManager manager(1);
+    manager.setOutputs(2);
+    manager.setThresholdConstant(output, 0, 0);
+    manager.setHasWindows(output, 0, true);
+    QVERIFY(!manager.hasWindows(output, 0));
+    for (unsigned int valid : {1u, 2u}) {
+        QCOMPARE(manager.toHexString(valid, 0), std::string("8000800080008000"));
+        QVERIFY(!manager.hasWindows(int(valid), 0));
+    }
+
+    ThresholdMultiManagerColor colour(1);
+    colour.setOutputs(2);
+    colour.setThresholdConstant(output, 0, 0);
+    colour.setHasWindows(output, 0, true);
+    QVERIFY(!colour.hasWindows(output, 0));
+    QVERIFY(!colour.hasWindows(1, 0));
+}
+
+void tst_ThresholdManager::colourManager()
+{
+    ThresholdMultiManagerColor manager(2);
+    manager.setOutputs(1);
+    QSignalSpy spy(&manager, &ThresholdMultiManagerColor::emitOutputUpdated);
+    using C = ThresholdMultiManagerColor;
+    const std::initializer_list<void (C::*)(unsigned int, int, const double &)> setters = {
+        &C::setColorRed,      &C::setColorGreen,    &C::setColorBlue,      &C::setColorLight,
+        &C::setColorRedHigh,  &C::setColorRedLow,   &C::setColorGreenHigh, &C::setColorGreenLow,
+        &C::setColorBlueHighh, &C::setColorBlueLow, &C::setColorLightHigh, &C::setColorLightLow,
+    };
+    for (auto setter : setters) {
+        (manager.*setter)(1, 1, 2.0);
+        (manager.*setter)(2, 1, 2.0); // no such output
+        (manager.*setter)(1, 2, 2.0); // no such entry
+    }
+    QCOMPARE(spy.count(), 12);
+    manager.setHasWindows(1, 1, true);
+    QVERIFY(manager.hasWindows(1, 1));
+    QCOMPARE(spy.count(), 12);
+}
+
+QTEST_GUILESS_MAIN(tst_ThresholdManager)
+#include "tst_thresholdmanager.moc"

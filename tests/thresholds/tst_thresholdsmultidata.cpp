@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "thresholds/thresholdsmultidata.h"
+#include "thresholds/thresholdsmultidatacolor.h"
+
+#include <QtTest>
+
+#include <memory>
+
+using Utils::ThresholdsMultiData;
+using Utils::ThresholdsMultiDataColor;
+
+namespace {
+
+struct CountingObserver : Utils::Observer
+{
+    int calls = 0;
+    void update(void *) override { ++calls; }
+};
+
+using ColourSetter = void (ThresholdsMultiDataColor::*)(int, const double &);
+using ColourGetter = double (ThresholdsMultiDataColor::*)(int) const;
+
+} // namespace
+
+Q_DECLARE_METATYPE(ColourSetter)
+Q_DECLARE_METATYPE(ColourGetter)
+
+class tst_ThresholdsMultiData : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void settersAndGetters();
+    void invalidIndexes_data();
+    void invalidIndexes();
+    void toHexString_data();
+    void toHexString();
+    void setFromValues_data();
+    void setFromValues();
+    void copiesShareValues();
+    void colourFields_data();
+    void colourFields();
+    void colourInvalidIndexesAndCopies();
+};
+
+void tst_ThresholdsMultiData::settersAndGetters()
+{
+    ThresholdsMultiData data(3);
+    CountingObserver observer;
+    data.attach(&observer);
+
+    data.setLow(1, -2.5);
+    data.setHigh(1, 700.25);
+    data.setMiddle(1, 5.0);
+    data.setMiddle1(1, 6.0);
+    data.setNoise(1, -4);
+    QCOMPARE(observer.calls, 5);
+    // Stored as given: no clamping, negative noise allowed.
+    QCOMPARE(data.low(1), -2.5);
+    QCOMPARE(data.high(1), 700.25);
+    QCOMPARE(data.midle(1), 5.0);
+    QCOMPARE(data.midle1(1), 6.0);
+    QCOMPARE(data.noise(1), -4);
+    QCOMPARE(data.low(0), 0.0);
+    QCOMPARE(data.midle(2), 0.0);
+
+    data.setThresholdConstant(1, 7);
+    data.setHasWindow(1, true);
+    QCOMPARE(observer.calls, 5);
+    QVERIFY(data.hasWindow(1));
+    QVERIFY(!data.hasWindow(0));
+}
+
+void tst_ThresholdsMultiData::invalidIndexes_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("index");
+    QTest::newRow("index equal to count") << 2 << 2;
+    QTest::newRow("far above") << 2 << 1000000;
+    QTest::newRow("negative") << 2 << -1;
+    QTest::newRow("most negative") << 2 << std::numeric_limits<int>::min();
+    QTest::newRow("empty list") << 0 << 0;
+    QTest::newRow("negative count gives an empty list") << -3 << 0;
+}
+
+void tst_ThresholdsMultiData::invalidIndexes()
+{
+    QFETCH(int, count);
+    QFETCH(int, index);
+    ThresholdsMultiData data(count);
+    CountingObserver observer;
+    data.attach(&observer);
+
+    data.setLow(index, 1.0);
+    data.setHigh(index, 1.0);
+    data.setMiddle(index, 1.0);
+    data.setMiddle1(index, 1.0);
+    data.setNoise(index, 1);
+    data.setThresholdConstant(index, 1);
+    data.setHasWindow(index, true);
+    data.setFromValues(index, 1, 2, 3, 4);
+    QCOMPARE(observer.calls, 0);
+
+    QCOMPARE(data.low(index), -1.0);
+    QCOMPARE(data.high(index), -1.0);
+    QCOMPARE(data.midle(index), -1.0);
+    QCOMPARE(data.midle1(index), -1.0);
+    QCOMPARE(data.noise(index), -1);
+    QCOMPARE(data.hasWindow(index), false);
+    QCOMPARE(data.toHexString(index), std::string());
+    for (int i = 0; i < count; ++i)
+        QCOMPARE(data.low(i), 0.0);
+}
+
+void tst_ThresholdsMultiData::toHexString_data()
+{
+    QTest::addColumn<uint>("constant");
+    QTest::addColumn<int>("noise");
+    QTest::addColumn<double>("low");
+    QTest::addColumn<double>("high");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("word 4 below 0 becomes 0000") << 0u << 5 << 3.0 << 0.0 << "0005000000030000";
+    QTest::newRow("sensor zero point") << 0x8000u << 10 << 100.0 << 300.0 << "8136812C8064805A";
+    QTest::newRow("truncated values") << 0u << 0 << 1.99 << 2.99 << "0002000200010001";
+    // Only word 4 is held at 0; the others show a negative value's bits.
+    QTest::newRow("negative high") << 0u << 0 << 0.0 << -1.0 << "FFFFFFFFFFFFFFFF00000000";
+    QTest::newRow("not cut to four digits") << 0x12345u << 0 << 0.0 << 0.0 << "12345123451234512345";
+}
+
+void tst_ThresholdsMultiData::toHexString()
+{
+    QFETCH(uint, constant);
+    QFETCH(int, noise);
+    QFETCH(double, low);
+    QFETCH(double, high);
+    QFETCH(QString, text);
+
+    ThresholdsMultiData data(2);
+    data.setThresholdConstant(1, constant);
+    data.setNoise(1, noise);
+    data.setLow(1, low);
+    data.setHigh(1, high);
+    QCOMPARE(QString::fromStdString(data.toHexString(1)), text);
+}
+
+void tst_ThresholdsMultiData::setFromValues_data()
+{
+    QTest::addColumn<uint>("constant");
+    QTest::addColumn<double>("a");
+    QTest::addColumn<double>("b");
+    QTest::addColumn<double>("c");
+    QTest::addColumn<double>("low");
+    QTest::addColumn<double>("high");
+    QTest::addColumn<int>("noise");
+
+    QTest::newRow("round trip of the zero-point string") << 0x8000u << double(0x8136) << double(0x812C)
+                                                         << double(0x8064) << 100.0 << 300.0 << 10;
+    QTest::newRow("low below offset, high above: low 0") << 0x8000u << double(0x8010) << double(0x8010)
+                                                         << 5.0 << 0.0 << 16.0 << 0;
+    QTest::newRow("both below offset: low -1") << 0x8000u << 3.0 << 2.0 << 1.0 << -1.0 << 0.0 << 1;
+    QTest::newRow("high exactly 0: low -1") << 10u << 10.0 << 10.0 << 9.0 << -1.0 << 0.0 << 0;
+    QTest::newRow("negative noise, truncated") << 0u << 5.0 << 10.7 << 2.0 << 2.0 << 10.7 << -5;
+}
+
+void tst_ThresholdsMultiData::setFromValues()
+{
+    QFETCH(uint, constant);
+    QFETCH(double, a);
+    QFETCH(double, b);
+    QFETCH(double, c);
+    QFETCH(double, low);
+    QFETCH(double, high);
+    QFETCH(int, noise);
+
+    ThresholdsMultiData data(1);
+    CountingObserver observer;
+    data.attach(&observer);
+    data.setThresholdConstant(0, constant);
+    data.setFromValues(0, a, b, c, 12345.0);
+    QCOMPARE(observer.calls, 1);
+    QCOMPARE(data.low(0), low);
+    QCOMPARE(data.high(0), high);
+    QCOMPARE(data.noise(0), noise);
+}
+
+void tst_ThresholdsMultiData::copiesShareValues()
+{
+    auto source = std::make_unique<ThresholdsMultiData>(2);
+    CountingObserver sourceObserver;
+    source->attach(&sourceObserver);
+
+    ThresholdsMultiData copy(*source);
+    copy.setHigh(1, 99.0);
+    copy.setHasWindow(0, true);
+    QCOMPARE(source->high(1), 99.0);
+    QVERIFY(source->hasWindow(0));
+    QCOMPARE(sourceObserver.calls, 0);
+
+    ThresholdsMultiData assigned(5);
+    assigned = copy;
+    source->setMiddle1(0, 3.0);
+    QCOMPARE(assigned.midle1(0), 3.0);
+    QCOMPARE(assigned.toHexString(2), std::string()); // now two entries, like its source
+
+    source.reset();
+    QCOMPARE(copy.high(1), 99.0);
+    QCOMPARE(assigned.midle1(0), 3.0);
+}
+
+void tst_ThresholdsMultiData::colourFields_data()
+{
+    QTest::addColumn<ColourSetter>("setter");
+    QTest::addColumn<ColourGetter>("getter");
+
+    using C = ThresholdsMultiDataColor;
+    QTest::newRow("red") << ColourSetter(&C::setColorRed) << ColourGetter(&C::red);
+    QTest::newRow("green") << ColourSetter(&C::setColorGreen) << ColourGetter(&C::green);
+    QTest::newRow("blue") << ColourSetter(&C::setColorBlue) << ColourGetter(&C::blue);
+    QTest::newRow("light") << ColourSetter(&C::setColorLight) << ColourGetter(&C::light);
+    QTest::newRow("redHigh") << ColourSetter(&C::setColorRedHigh) << ColourGetter(&C::redHigh);
+    QTest::newRow("redLow") << ColourSetter(&C::setColorRedLow) << ColourGetter(&C::redLow);
+    QTest::newRow("greenHigh") << ColourSetter(&C::setColorGreenHigh) << ColourGetter(&C::greenHigh);
+    QTest::newRow("greenLow") << ColourSetter(&C::setColorGreenLow) << ColourGetter(&C::greenLow);
+    QTest::newRow("blueHigh") << ColourSetter(&C::setColorBlueHigh) << ColourGetter(&C::blueHigh);
+    QTest::newRow("blueLow") << ColourSetter(&C::setColorBlueLow) << ColourGetter(&C::blueLow);
+    QTest::newRow("lightHigh") << ColourSetter(&C::setColorLightHigh) << ColourGetter(&C::lightHigh);
+    QTest::newRow("lightLow") << ColourSetter(&C::setColorLightLow) << ColourGetter(&C::lightLow);
+}
+
+void tst_ThresholdsMultiData::colourFields()
+{
+    QFETCH(ColourSetter, setter);
+    QFETCH(ColourGetter, getter);
+    const ColourGetter all[] = {
+        &ThresholdsMultiDataColor::red,      &ThresholdsMultiDataColor::green,     &ThresholdsMultiDataColor::blue,
+        &ThresholdsMultiDataColor::light,    &ThresholdsMultiDataColor::redHigh,   &ThresholdsMultiDataColor::redLow,
+        &ThresholdsMultiDataColor::greenHigh, &ThresholdsMultiDataColor::greenLow, &ThresholdsMultiDataColor::blueHigh,
+        &ThresholdsMultiDataColor::blueLow,  &ThresholdsMultiDataColor::lightHigh, &ThresholdsMultiDataColor::lightLow,
+    };
+
+    ThresholdsMultiDataColor data(2);
+    CountingObserver observer;
+    data.attach(&observer);
+    (data.*setter)(1, 123.5);
+    QCOMPARE(observer.calls, 1);
+    // Exactly this field of exactly this entry changed.
+    for (ColourGetter other : all) {
+        QCOMPARE((data.*other)(0), 0.0);
+        QCOMPARE((data.*other)(1), other == getter ? 123.5 : 0.0);
+    }
+}
+
+void tst_ThresholdsMultiData::colourInvalidIndexesAndCopies()
+{
+    ThresholdsMultiDataColor data(1);
+    CountingObserver observer;
+    data.attach(&observer);
+    for (int index : {-1, 1, std::numeric_limits<int>::max()}) {
+        data.setColorRed(index, 1.0);
+        data.setColorLightLow(index, 1.0);
+        data.setNoise(index, 1);
+        data.setThresholdConstant(index, 1);
+        data.setHasWindow(index, true);
+        QCOMPARE(data.red(index), -1.0);
+        QCOMPARE(data.lightLow(index), -1.0);
+        QCOMPARE(data.noise(index), -1);
+        QVERIFY(!data.hasWindow(index));
+    }
+    QCOMPARE(observer.calls, 0);
+
+    data.setNoise(0, -7);
+    data.setThresholdConstant(0, 5);
+    data.setHasWindow(0, true);
+    QCOMPARE(observer.calls, 1);
+    QCOMPARE(data.noise(0), -7);
+
+    ThresholdsMultiDataColor copy(data);
+    copy.setColorGreenHigh(0, 4.0);
+    QCOMPARE(data.greenHigh(0), 4.0);
+    QVERIFY(copy.hasWindow(0));
+    QCOMPARE(observer.calls, 1);
+}
+
+QTEST_GUILESS_MAIN(tst_ThresholdsMultiData)
+#include "tst_thresholdsmultidata.moc"
