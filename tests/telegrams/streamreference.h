@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef UTILS_TESTS_STREAMREFERENCE_H
+#define UTILS_TESTS_STREAMREFERENCE_H
+
+// The telegram texts as the original stream-based reading parses them: every
+// piece through a fresh std::istringstream in std::hex mode. Slow, but obviously
+// right; the tests, the fuzzers and the benchmark compare the library's fast
+// parsers with it.
+
+#include "telegrams/tamarindprotocolheader.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <sstream>
+#include <string>
+
+namespace StreamReference {
+
+inline std::string piece(const std::string &text, std::size_t pos)
+{
+    return text.substr(pos, 2);
+}
+
+//! One single-byte field: `stream >> unsignedChar`, which keeps the field on failure.
+inline uint8_t readCharacter(const std::string &text, std::size_t pos, uint8_t field)
+{
+    std::istringstream stream(piece(text, pos));
+    unsigned char value = field;
+    stream >> std::hex >> value;
+    return value;
+}
+
+template<typename Number>
+Number readNumber(const std::string &text, std::size_t pos, Number start)
+{
+    std::istringstream stream(piece(text, pos));
+    Number value = start;
+    stream >> std::hex >> value;
+    return value;
+}
+
+/*!
+    Reads \a text into \a header like TamarindProtocolHeader::bSetFromString().
+    Texts of 12 to 23 characters are refused untouched (the substring step
+    cannot give all pieces); high pieces read into fresh ints starting at 0.
+*/
+inline bool setFromString(Utils::TamarindProtocolHeader &header, const std::string &text)
+{
+    if (text.empty()) {
+        header.vClear();
+        return false;
+    }
+    if (text.size() < 24)
+        return false;
+
+    header.vSetStart(readCharacter(text, 0, header.u8Start()));
+    header.vSetVersion(readCharacter(text, 2, header.u8Version()));
+    header.vSetMessageId(readCharacter(text, 4, header.u8MessageId()));
+    header.vSetRepeat(readCharacter(text, 6, header.u8Repeat()));
+
+    uint16_t length = readNumber<unsigned short>(text, 8, header.u16ProtocolLenght());
+    length = static_cast<uint16_t>(length + (static_cast<uint32_t>(readNumber<int>(text, 10, 0)) << 8));
+    header.vSetProtocolLenght(length);
+
+    header.vSetMessageType(readCharacter(text, 12, header.u8MessageType()));
+    header.vSetDummy(readCharacter(text, 14, header.u8Dummy()));
+
+    uint32_t address = readNumber<unsigned int>(text, 16, header.u32Adress());
+    address += static_cast<uint32_t>(readNumber<int>(text, 18, 0)) << 8;
+    address += static_cast<uint32_t>(readNumber<int>(text, 20, 0)) << 16;
+    address += static_cast<uint32_t>(readNumber<int>(text, 22, 0)) << 24;
+    header.vSetAdress(address);
+    return true;
+}
+
+//! The Mel checksum as the stream-based codec computes it.
+inline std::string melChecksum(const std::string &text)
+{
+    if (text.empty())
+        return std::string();
+    int running = readNumber<int>(text, 0, 0);
+    for (std::size_t p = 2; p < text.size(); p += 2)
+        running ^= readNumber<int>(text, p, 0);
+    char buffer[16];
+    std::snprintf(buffer, sizeof buffer, "%.2X", static_cast<unsigned>(running));
+    return std::string(buffer) + "00";
+}
+
+} // namespace StreamReference
+
+#endif // UTILS_TESTS_STREAMREFERENCE_H

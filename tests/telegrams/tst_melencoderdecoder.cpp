@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "telegrams/melencoderdecoder.h"
+
+#include "streamreference.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+#include <QTest>
+
+using Utils::MelData;
+using Utils::MelEncoderDecoder;
+
+Q_DECLARE_METATYPE(std::string)
+
+class tst_MelEncoderDecoder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void checksum_data();
+    void checksum();
+    void checksumLikeStream();
+    void setFromString();
+    void partialCodec();
+};
+
+void tst_MelEncoderDecoder::checksum_data()
+{
+    QTest::addColumn<std::string>("text");
+    QTest::addColumn<std::string>("checksum");
+
+    QTest::newRow("empty") << std::string() << std::string();
+    QTest::newRow("one pair") << std::string("FF") << std::string("FF00");
+    QTest::newRow("pairs cancel") << std::string("FFFF") << std::string("0000");
+    QTest::newRow("four pairs") << std::string("0102030A") << std::string("0A00");
+    // The last odd character is a piece of its own: 0x12 XOR 0x3.
+    QTest::newRow("odd length") << std::string("123") << std::string("1100");
+    QTest::newRow("one character") << std::string("7") << std::string("0700");
+    QTest::newRow("lower case") << std::string("5a") << std::string("5A00");
+    // Pieces read like a hex stream: no digits counts 0, reading stops at a non-hex character.
+    QTest::newRow("non-hex piece") << std::string("ZZ0141") << std::string("4000");
+    QTest::newRow("non-hex second character") << std::string("1G20") << std::string("2100");
+    QTest::newRow("leading blank") << std::string(" 102") << std::string("0300");
+    QTest::newRow("0x prefix") << std::string("0x05") << std::string("0500");
+    // A sign is read too; a negative sum prints as the full unsigned int.
+    QTest::newRow("plus sign") << std::string("+F01") << std::string("0E00");
+    QTest::newRow("minus sign") << std::string("-101") << std::string("FFFFFFFE00");
+}
+
+void tst_MelEncoderDecoder::checksum()
+{
+    QFETCH(std::string, text);
+    QFETCH(std::string, checksum);
+    MelEncoderDecoder codec;
+    QCOMPARE(codec.oCalculateChecksum(text), checksum);
+    QCOMPARE(StreamReference::melChecksum(text), checksum);
+    QCOMPARE(codec.u16LastError(), (unsigned short)0);
+}
+
+void tst_MelEncoderDecoder::checksumLikeStream()
+{
+    static const char alphabet[] = "0123456789abcdefABCDEFxX+- \t\n.G\x80";
+    QRandomGenerator random(4711);
+    MelEncoderDecoder codec;
+    for (int round = 0; round < 20000; ++round) {
+        std::string text(random.bounded(0, 40), '0');
+        for (char &c : text)
+            c = alphabet[random.bounded(int(sizeof alphabet - 1))];
+        QCOMPARE(codec.oCalculateChecksum(text), StreamReference::melChecksum(text));
+    }
+    // Every pair of bytes as a one-piece and a two-piece text.
+    for (int first = 0; first < 256; ++first) {
+        for (int second = 0; second < 256; ++second) {
+            const std::string pair{ char(first), char(second) };
+            const std::string text = "1" + pair;
+            QCOMPARE(codec.oCalculateChecksum(pair), StreamReference::melChecksum(pair));
+            QCOMPARE(codec.oCalculateChecksum(text), StreamReference::melChecksum(text));
+        }
+    }
+    const QDir corpus(QStringLiteral(UTILS_TELEGRAM_CORPUS "/fuzz_melchecksum"));
+    for (const QString &name : corpus.entryList(QDir::Files)) {
+        QFile file(corpus.absoluteFilePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const std::string text = file.readAll().toStdString();
+        QVERIFY2(codec.oCalculateChecksum(text) == StreamReference::melChecksum(text), qPrintable(name));
+    }
+}
+
+void tst_MelEncoderDecoder::setFromString()
+{
+    MelData data;
+    // Too short: refused, nothing traced, nothing stored.
+    std::string text(995, 'Q');
+    QVERIFY(!data.setFromString(text));
+    QCOMPARE(data, MelData());
+
+    text = std::string(4, '#') + "ABCDEFGHIJKLMNOPQRSTUVW" + std::string(70, '-') + "xyz";
+    text[74] = 'K';
+    text.resize(996, '.');
+    QTest::ignoreMessage(QtDebugMsg, "ABCDEFGHIJKLMNOPQRSTUVW");
+    QTest::ignoreMessage(QtDebugMsg, qPrintable(QString::fromStdString(text.substr(4, 96))));
+    QTest::ignoreMessage(QtDebugMsg, "K");
+    QTest::ignoreMessage(QtDebugMsg, "K 75");
+    QTest::ignoreMessage(QtDebugMsg, "75");
+    QVERIFY(!data.setFromString(text));
+    for (std::size_t i = 0; i < MelData::nSize; ++i)
+        QCOMPARE(int(data.pu8Data()[i]), i == 76 ? int('K') : 0);
+
+    // Copies take the whole block; initMembers zeroes it.
+    MelData copy(data);
+    QCOMPARE(copy, data);
+    MelData assigned;
+    assigned = data;
+    QCOMPARE(assigned, data);
+    assigned.initMembers();
+    QCOMPARE(assigned, MelData());
+    QVERIFY(copy != assigned);
+}
+
+void tst_MelEncoderDecoder::partialCodec()
+{
+    // toString clears the caller's text although it takes a constant reference.
+    MelData data;
+    const std::string text = "0102030A";
+    QVERIFY(!data.toString(text));
+    QVERIFY(text.empty());
+
+    MelEncoderDecoder codec;
+    QCOMPARE(codec.oEncode(data), std::string());
+    QCOMPARE(codec.oDecodeString(std::string(1200, 'F')), MelData());
+    const MelEncoderDecoder copy(codec);
+    MelEncoderDecoder assigned;
+    assigned = copy;
+    QCOMPARE(assigned.u16LastError(), (unsigned short)0);
+}
+
+QTEST_GUILESS_MAIN(tst_MelEncoderDecoder)
+
+#include "tst_melencoderdecoder.moc"
