@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef UTILS_TESTS_PLOTTESTHELPERS_H
+#define UTILS_TESTS_PLOTTESTHELPERS_H
+
+#include <qwt_plot.h>
+#include <qwt_scale_div.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace PlotTest {
+
+//! One wheel notch (delta 120) or a negative one, delivered like a real wheel.
+inline void wheel(QWidget *target, const QPoint &pos, int delta)
+{
+    QWheelEvent event(QPointF(pos), QPointF(target->mapToGlobal(pos)), QPoint(), QPoint(0, delta), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(target, &event);
+}
+
+//! A mouse move with \a buttons held (QTest::mouseMove only moves the cursor in Qt 5.15).
+inline void dragMove(QWidget *target, const QPoint &pos, Qt::MouseButtons buttons)
+{
+    QMouseEvent event(QEvent::MouseMove, QPointF(pos), QPointF(target->mapToGlobal(pos)), Qt::NoButton, buttons,
+                      Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+}
+
+//! Press, a few moves and release from \a from to \a to on \a target.
+inline void drag(QWidget *target, Qt::MouseButton button, const QPoint &from, const QPoint &to)
+{
+    QTest::mousePress(target, button, Qt::NoModifier, from);
+    for (int step = 1; step <= 4; ++step)
+        dragMove(target, from + (to - from) * step / 4, button);
+    QTest::mouseRelease(target, button, Qt::NoModifier, to);
+}
+
+inline double lower(const QwtPlot &plot, int axis)
+{
+    return plot.axisScaleDiv(axis).lowerBound();
+}
+
+inline double upper(const QwtPlot &plot, int axis)
+{
+    return plot.axisScaleDiv(axis).upperBound();
+}
+
+//! Distance between the first two major ticks, 0 when there are fewer.
+inline double majorStep(const QwtPlot &plot, int axis)
+{
+    const QList<double> ticks = plot.axisScaleDiv(axis).ticks(QwtScaleDiv::MajorTick);
+    return ticks.size() < 2 ? 0.0 : ticks.at(1) - ticks.at(0);
+}
+
+inline bool near(double a, double b, double tolerance = 1e-9)
+{
+    return std::fabs(a - b) <= tolerance * std::max(1.0, std::max(std::fabs(a), std::fabs(b)));
+}
+
+} // namespace PlotTest
+
+#endif // UTILS_TESTS_PLOTTESTHELPERS_H

@@ -1,0 +1,939 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "plottesthelpers.h"
+
+#include <plot/axisscaleengine.h>
+#include <plot/plot.h>
+#include <plot/timepicker.h>
+#include <plot/timescaledraw.h>
+#include <plot/wplotmagnifier.h>
+#include <plot/wplotpanner.h>
+#include <plot/wselectionzoomer.h>
+
+#include <qwt_plot_canvas.h>
+#include <qwt_plot_grid.h>
+#include <qwt_scale_widget.h>
+
+#include <QDateTime>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <functional>
+#include <memory>
+
+using namespace PlotTest;
+using Utils::Plot;
+
+namespace {
+
+QString settingsFile()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/settings.ini");
+}
+
+void writeAxisType(int type)
+{
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("plot/xPlotAxisType"), type);
+    settings.sync();
+}
+
+int readAxisType()
+{
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    return settings.value(QStringLiteral("plot/xPlotAxisType"), -1).toInt();
+}
+
+//! Clicks the action called \a text of the next popup menu; records what the menu offered.
+struct MenuDriver
+{
+    QStringList offered;
+    QStringList checked;
+    bool done = false;
+
+    void clickWhenShown(const QString &text)
+    {
+        QTimer::singleShot(20, [this, text]() { poll(text, 200); });
+    }
+
+    void poll(const QString &text, int triesLeft)
+    {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu) {
+            if (triesLeft > 0)
+                QTimer::singleShot(10, [this, text, triesLeft]() { poll(text, triesLeft - 1); });
+            return;
+        }
+        QAction *target = nullptr;
+        for (QAction *action : menu->actions()) {
+            offered << action->text();
+            if (action->isChecked())
+                checked << action->text();
+            if (action->text() == text)
+                target = action;
+        }
+        done = true;
+        if (target)
+            QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(target).center());
+        else
+            menu->close();
+    }
+};
+
+} // namespace
+
+class tst_Plot : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void construction();
+    void withoutTools();
+    void setAxisScaleSharesLimits();
+    void wheelZoom_data();
+    void wheelZoom();
+    void wheelZoomInvertedWithRightAxis_data();
+    void wheelZoomInvertedWithRightAxis();
+    void centreZoom_data();
+    void centreZoom();
+    void centreZoomRightAxis_data();
+    void centreZoomRightAxis();
+    void steps_data();
+    void steps();
+    void rubberBand_data();
+    void rubberBand();
+    void rubberBandRescalesRightAxis();
+    void zoomKeysOnlyRefreshTicks_data();
+    void zoomKeysOnlyRefreshTicks();
+    void panClamp_data();
+    void panClamp();
+    void disabledToolsIgnoreInput();
+    void zoomToolBar();
+    void zoomResetRestoresLimits();
+    void timeAxisButtons();
+    void zoomResetRectangle();
+    void doubleClick_data();
+    void doubleClick();
+    void leftPressAndRelease();
+    void clickPicker();
+    void axisMenu();
+    void axisMenuElsewhereDoesNothing();
+    void timeLabels_data();
+    void timeLabels();
+    void displayValueLabels();
+    void trackerText();
+    void languageChange();
+    void resizeEmitsAxisChanged();
+
+private:
+    Plot *makePlot(bool noTools = false);
+
+    std::unique_ptr<QWidget> m_host;
+    Plot *m_plot = nullptr;
+};
+
+Plot *tst_Plot::makePlot(bool noTools)
+{
+    m_host.reset(new QWidget);
+    auto *layout = new QVBoxLayout(m_host.get());
+    m_plot = new Plot(m_host.get(), noTools);
+    layout->addWidget(m_plot);
+    m_host->resize(640, 420);
+    m_host->show();
+    if (!QTest::qWaitForWindowExposed(m_host.get()))
+        qWarning("window not exposed");
+    m_plot->replot();
+    return m_plot;
+}
+
+void tst_Plot::init()
+{
+    // Tests write the settings file next to the test binary: start and end clean.
+    QFile::remove(settingsFile());
+    makePlot();
+}
+
+void tst_Plot::cleanup()
+{
+    m_host.reset();
+    m_plot = nullptr;
+    QFile::remove(settingsFile());
+}
+
+void tst_Plot::construction()
+{
+    Plot &plot = *m_plot;
+    QCOMPARE(lower(plot, QwtPlot::yLeft), 0.0);
+    QCOMPARE(upper(plot, QwtPlot::yLeft), 300.0);
+    QVERIFY(plot.poZoomer() && plot.poPanner() && plot.poValueMagnifier() && plot.poTimeMagnifier());
+    QCOMPARE(plot.poValueMagnifier()->getMaxYRange(), 300.0);
+    QCOMPARE(plot.poValueMagnifier()->getMinYRange(), 0.0);
+    QCOMPARE(plot.poValueMagnifier()->minimumZoomLevel(), 2.0);
+    QCOMPARE(plot.poTimeMagnifier()->minimumZoomLevel(), 2.0);
+    QCOMPARE(plot.poZoomer()->upperValueBound(), 300.0);
+    QCOMPARE(plot.poZoomer()->minimumSelectionHeight(), 1.0);
+    QCOMPARE(plot.poPanner()->lowerPanLimit(), 0.0);
+    QCOMPARE(plot.poPanner()->upperPanLimit(), 300.0);
+    Qt::MouseButton button = Qt::NoButton;
+    Qt::KeyboardModifiers modifiers;
+    plot.poPanner()->getMouseButton(button, modifiers);
+    QCOMPARE(button, Qt::RightButton);
+    QCOMPARE(plot.poPanner()->orientations(), Qt::Orientations(Qt::Vertical));
+    QVERIFY(!plot.poPanner()->isAxisEnabled(QwtPlot::xBottom));
+    QVERIFY(!plot.poValueMagnifier()->isAxisEnabled(QwtPlot::xBottom));
+    QVERIFY(!plot.poTimeMagnifier()->isAxisEnabled(QwtPlot::yLeft));
+    QVERIFY(!plot.autoReplot());
+    QVERIFY(!plot.axisAutoScale(QwtPlot::yLeft) && !plot.axisAutoScale(QwtPlot::xBottom));
+    QVERIFY(dynamic_cast<Utils::TimeScaleDraw *>(plot.axisScaleDraw(QwtPlot::xBottom)));
+    QVERIFY(dynamic_cast<Utils::AxisScaleEngine *>(plot.axisScaleEngine(QwtPlot::yLeft)));
+    QCOMPARE(plot.canvas()->palette().brush(QPalette::Window).color(), QColor(Qt::white));
+    QVERIFY(!plot.getZoomResetClick());
+    QVERIFY(!plot.checkIndependentPlot());
+    QVERIFY(!plot.negativeValuesEnabled());
+    QCOMPARE(plot.secondValue(), 0.0);
+
+    const QwtPlotItemList grids = plot.itemList(QwtPlotItem::Rtti_PlotGrid);
+    QCOMPARE(grids.size(), 1);
+    const auto *grid = static_cast<const QwtPlotGrid *>(grids.first());
+    QCOMPARE(grid->majorPen().style(), Qt::DotLine);
+    QCOMPARE(grid->majorPen().color(), QColor(Qt::gray));
+    QVERIFY(grid->xEnabled() && grid->yEnabled() && grid->xMinEnabled() && !grid->yMinEnabled());
+}
+
+void tst_Plot::withoutTools()
+{
+    Plot *plot = makePlot(true);
+    QVERIFY(!plot->poZoomer() && !plot->poPanner() && !plot->poValueMagnifier() && !plot->poTimeMagnifier());
+    QVERIFY(plot->poTimeScaleDraw() && plot->poScaleEngine());
+    // Operations on missing tools are harmless.
+    plot->zoomPlusButtonClicked();
+    plot->zoomResetButtonClicked();
+    plot->zoomResetXButtonClicked();
+    plot->setEnabled(false);
+    QCOMPARE(plot->zoomReset(5.0), QRectF());
+    wheel(plot->canvas(), QPoint(50, 50), -120);
+}
+
+void tst_Plot::setAxisScaleSharesLimits()
+{
+    m_plot->setPanMinOffset(10);
+    m_plot->setPanMaxOffset(20);
+    m_plot->setAxisScale(QwtPlot::yLeft, 50.0, 150.0, 0.0);
+    QCOMPARE(m_plot->poValueMagnifier()->getMinYRange(), 50.0);
+    QCOMPARE(m_plot->poValueMagnifier()->getMaxYRange(), 150.0);
+    QCOMPARE(m_plot->poZoomer()->upperValueBound(), 150.0);
+    QCOMPARE(m_plot->poPanner()->lowerPanLimit(), 40.0);
+    QCOMPARE(m_plot->poPanner()->upperPanLimit(), 170.0);
+    QCOMPARE(m_plot->poZoomer()->zoomBase().top(), 50.0);
+
+    m_plot->setYRightRange(-5.0, 5.0);
+    QCOMPARE(m_plot->poValueMagnifier()->getMinYRightRange(), -5.0);
+    QCOMPARE(m_plot->poValueMagnifier()->getMaxYRightRange(), 5.0);
+    QCOMPARE(majorStep(*m_plot, QwtPlot::yRight), 2.0);
+
+    m_plot->setMinimumZoomLevel(3.0);
+    QCOMPARE(m_plot->poValueMagnifier()->minimumZoomLevel(), 4.0);
+}
+
+void tst_Plot::wheelZoom_data()
+{
+    QTest::addColumn<double>("limitLow");
+    QTest::addColumn<double>("limitHigh");
+    QTest::addColumn<double>("viewLow");
+    QTest::addColumn<double>("viewHigh");
+    QTest::addColumn<double>("minimumLevel"); // < 0: keep the default
+    QTest::addColumn<int>("delta");
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<double>("expectedSpan");
+
+    QTest::newRow("zoom in") << 0.0 << 300.0 << 0.0 << 100.0 << -1.0 << -120 << true << 90.0;
+    QTest::newRow("zoom in refused at the default level") << 0.0 << 300.0 << 10.0 << 12.0 << -1.0 << -120 << false << 2.0;
+    QTest::newRow("zoom in just above the default level") << 0.0 << 300.0 << 10.0 << 14.0 << -1.0 << -120 << true << 3.6;
+    QTest::newRow("level 3 means 4: refused at span 4") << 0.0 << 300.0 << 10.0 << 14.0 << 3.0 << -120 << false << 4.0;
+    QTest::newRow("zoom out refused at the maximum range") << 0.0 << 300.0 << 0.0 << 300.0 << -1.0 << 120 << false << 300.0;
+    QTest::newRow("zoom out refused above the maximum range") << 0.0 << 100.0 << 0.0 << 150.0 << -1.0 << 120 << false << 150.0;
+    QTest::newRow("zoom out below the maximum range") << 0.0 << 300.0 << 0.0 << 90.0 << -1.0 << 120 << true << 100.0;
+}
+
+void tst_Plot::wheelZoom()
+{
+    QFETCH(double, limitLow);
+    QFETCH(double, limitHigh);
+    QFETCH(double, viewLow);
+    QFETCH(double, viewHigh);
+    QFETCH(double, minimumLevel);
+    QFETCH(int, delta);
+    QFETCH(bool, accepted);
+    QFETCH(double, expectedSpan);
+
+    m_plot->setAxisScale(QwtPlot::yLeft, limitLow, limitHigh, 0.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, viewLow, viewHigh);
+    m_plot->replot();
+    if (minimumLevel >= 0.0)
+        m_plot->setMinimumZoomLevel(minimumLevel);
+    QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
+    int centreAsked = 0; // QSignalSpy cannot hold a double &
+    connect(m_plot, &Plot::zoomCenterSignalEvent, this, [&centreAsked](double &) { ++centreAsked; });
+
+    wheel(m_plot->canvas(), QPoint(100, 100), delta);
+
+    QCOMPARE(magnified.count(), accepted ? 1 : 0);
+    QCOMPARE(centreAsked, accepted ? 1 : 0);
+    const double span = upper(*m_plot, QwtPlot::yLeft) - lower(*m_plot, QwtPlot::yLeft);
+    QVERIFY2(near(span, expectedSpan, 1e-6), qPrintable(QString::number(span)));
+    if (accepted) {
+        QVERIFY(near(magnified.first().first().toDouble(), delta < 0 ? 0.9 : 1.0 / 0.9));
+        // Centre zoom with nobody answering centres on 0, clamped to 0 without negative values.
+        QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 0.0);
+    }
+}
+
+void tst_Plot::wheelZoomInvertedWithRightAxis_data()
+{
+    QTest::addColumn<double>("rightSpan");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("right span at the fixed limit 20") << 20.0 << false;
+    QTest::newRow("right span above 20") << 25.0 << false;
+    QTest::newRow("right span below 20") << 10.0 << true;
+}
+
+void tst_Plot::wheelZoomInvertedWithRightAxis()
+{
+    QFETCH(double, rightSpan);
+    QFETCH(bool, accepted);
+
+    m_plot->enableRightAxis(true);
+    m_plot->setAxisScale(QwtPlot::yRight, 0.0, rightSpan, 0.0);
+    // Inverted value axis whose span stays well below the maximum Y range.
+    m_plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0, 0.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 0.0);
+    m_plot->replot();
+    QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
+
+    wheel(m_plot->canvas(), QPoint(100, 100), 120);
+
+    QCOMPARE(magnified.count(), accepted ? 1 : 0);
+    QVERIFY(lower(*m_plot, QwtPlot::yLeft) > upper(*m_plot, QwtPlot::yLeft)); // stays inverted
+}
+
+void tst_Plot::centreZoom_data()
+{
+    QTest::addColumn<double>("low");
+    QTest::addColumn<double>("high");
+    QTest::addColumn<double>("answer");
+    QTest::addColumn<bool>("negatives");
+    QTest::addColumn<double>("expectedLow");
+    QTest::addColumn<double>("expectedHigh");
+
+    QTest::newRow("centred on the answer") << 0.0 << 40.0 << 100.0 << false << 80.0 << 120.0;
+    QTest::newRow("near 0 without negatives: 0 to span") << 0.0 << 40.0 << 5.0 << false << 0.0 << 40.0;
+    QTest::newRow("near 0 with negatives") << 0.0 << 40.0 << 5.0 << true << -15.0 << 25.0;
+    QTest::newRow("inverted axis stays inverted") << 40.0 << 0.0 << 100.0 << false << 120.0 << 80.0;
+    QTest::newRow("inverted near 0 without negatives") << 40.0 << 0.0 << 5.0 << false << 40.0 << 0.0;
+}
+
+void tst_Plot::centreZoom()
+{
+    QFETCH(double, low);
+    QFETCH(double, high);
+    QFETCH(double, answer);
+    QFETCH(bool, negatives);
+    QFETCH(double, expectedLow);
+    QFETCH(double, expectedHigh);
+
+    m_plot->setEnableNegativeValues(negatives);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, low, high);
+    m_plot->replot();
+    connect(m_plot, &Plot::zoomCenterSignalEvent, this, [answer](double &centre) {
+        QCOMPARE(centre, 0.0);
+        centre = answer;
+    });
+    m_plot->zoomCenter();
+    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), expectedLow);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), expectedHigh);
+}
+
+void tst_Plot::centreZoomRightAxis_data()
+{
+    QTest::addColumn<double>("rightSpan");
+    QTest::addColumn<bool>("rescaled");
+    QTest::addColumn<double>("expectedStep");
+    QTest::newRow("span 0 counts as 0.15: not rescaled") << 0.0 << false << 0.0;
+    QTest::newRow("span 0.5: step 0.1") << 0.5 << true << 0.1;
+    QTest::newRow("span 10: step 1") << 10.0 << true << 1.0;
+    QTest::newRow("span 40: step 2") << 40.0 << true << 2.0;
+}
+
+void tst_Plot::centreZoomRightAxis()
+{
+    QFETCH(double, rightSpan);
+    QFETCH(bool, rescaled);
+    QFETCH(double, expectedStep);
+
+    m_plot->enableRightAxis(true);
+    m_plot->setEnableNegativeValues(true);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yRight, 3.0, 3.0 + rightSpan);
+    m_plot->replot();
+    const double rightLowBefore = lower(*m_plot, QwtPlot::yRight);
+    const double rightHighBefore = upper(*m_plot, QwtPlot::yRight);
+    QSignalSpy rightAsked(m_plot, SIGNAL(zoomCenterRightSignalEvent(double, int)));
+    QSignalSpy baseline(m_plot, SIGNAL(SignalsetBaselineTo(int)));
+    // A listener answers the right-axis question by setting the second value.
+    connect(m_plot, &Plot::zoomCenterRightSignalEvent, m_plot, [this]() { m_plot->setSecondValue(50.0); });
+
+    m_plot->zoomCenter();
+
+    QCOMPARE(rightAsked.count(), 1);
+    QCOMPARE(rightAsked.first().at(0).toDouble(), 0.0);
+    QCOMPARE(rightAsked.first().at(1).toInt(), 0);
+    QCOMPARE(baseline.count(), rescaled ? 1 : 0);
+    if (rescaled) {
+        QCOMPARE(baseline.first().first().toInt(), 0);
+        QVERIFY(near(lower(*m_plot, QwtPlot::yRight), 50.0 - rightSpan / 2));
+        QVERIFY(near(upper(*m_plot, QwtPlot::yRight), 50.0 + rightSpan / 2));
+        QVERIFY(near(majorStep(*m_plot, QwtPlot::yRight), expectedStep));
+    } else {
+        QCOMPARE(lower(*m_plot, QwtPlot::yRight), rightLowBefore);
+        QCOMPARE(upper(*m_plot, QwtPlot::yRight), rightHighBefore);
+    }
+}
+
+void tst_Plot::steps_data()
+{
+    QTest::addColumn<double>("span");
+    QTest::addColumn<double>("centreStep");
+    QTest::addColumn<bool>("ultra");
+    QTest::addColumn<double>("quietStep");
+
+    QTest::newRow("3.0") << 3.0 << 0.5 << false << 0.5;
+    QTest::newRow("1.2") << 1.2 << 0.2 << false << 0.2;
+    QTest::newRow("0.5") << 0.5 << 0.1 << false << 0.1;
+    QTest::newRow("0.2") << 0.2 << 0.05 << false << 0.05;
+    QTest::newRow("0.12") << 0.12 << 0.02 << false << 0.02;
+    // The step table is the rule: 0.018 <= 0.02 < 0.03 gives 0.005 to both.
+    QTest::newRow("0.02 reports deep zoom, zoomer quiet") << 0.02 << 0.005 << true << 0.005;
+    QTest::newRow("0.04") << 0.04 << 0.01 << true << 0.01;
+    QTest::newRow("0.012") << 0.012 << 0.002 << true << 0.002;
+    QTest::newRow("0.009 below 0.01: rules differ") << 0.009 << 0.001 << true << 0.001;
+    QTest::newRow("0.005 below 0.008: 0.0005 against 0.001") << 0.005 << 0.0005 << true << 0.001;
+}
+
+void tst_Plot::steps()
+{
+    QFETCH(double, span);
+    QFETCH(double, centreStep);
+    QFETCH(bool, ultra);
+    QFETCH(double, quietStep);
+
+    // Centre zoom (getStep).
+    m_plot->setEnableNegativeValues(true);
+    connect(m_plot, &Plot::zoomCenterSignalEvent, this, [span](double &centre) { centre = 100.0 + span / 2; });
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 100.0 + span);
+    m_plot->replot();
+    QSignalSpy ultraZoomed(m_plot, SIGNAL(plotUltraZoomed()));
+    m_plot->zoomCenter();
+    QCOMPARE(ultraZoomed.count(), ultra ? 1 : 0);
+    QVERIFY2(near(majorStep(*m_plot, QwtPlot::yLeft), centreStep, 1e-6),
+             qPrintable(QString::number(majorStep(*m_plot, QwtPlot::yLeft))));
+    QCOMPARE(bool(dynamic_cast<ExtScaleDraw *>(m_plot->axisScaleDraw(QwtPlot::yLeft))), centreStep <= 0.0005);
+
+    // The panner's quieter rule after a real right-button drag.
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 100.0 + span);
+    m_plot->replot();
+    ultraZoomed.clear();
+    const QPoint from(200, 150);
+    drag(m_plot->canvas(), Qt::RightButton, from, from + QPoint(0, 6));
+    QVERIFY(lower(*m_plot, QwtPlot::yLeft) > 100.0); // it did pan
+    QCOMPARE(ultraZoomed.count(), 0);
+    QVERIFY2(near(majorStep(*m_plot, QwtPlot::yLeft), quietStep, 1e-6),
+             qPrintable(QString::number(majorStep(*m_plot, QwtPlot::yLeft))));
+}
+
+void tst_Plot::rubberBand_data()
+{
+    QTest::addColumn<double>("top");
+    QTest::addColumn<double>("height");
+    QTest::addColumn<bool>("zooms");
+    QTest::addColumn<double>("expectedStep"); // 0: automatic
+
+    QTest::newRow("height 1.0 ignored") << 100.0 << 1.0 << false << 0.0;
+    QTest::newRow("height 0.5 ignored") << 100.0 << 0.5 << false << 0.0;
+    QTest::newRow("height 1.2: quieter step 0.2") << 100.0 << 1.2 << true << 0.2;
+    QTest::newRow("height 2: step 0.5") << 100.0 << 2.0 << true << 0.5;
+    QTest::newRow("height 50: automatic step") << 100.0 << 50.0 << true << 0.0;
+}
+
+void tst_Plot::rubberBand()
+{
+    QFETCH(double, top);
+    QFETCH(double, height);
+    QFETCH(bool, zooms);
+    QFETCH(double, expectedStep);
+
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 1000.0, 61000.0);
+    m_plot->replot();
+    m_plot->setZoomBase();
+    QSignalSpy zoomed(m_plot, SIGNAL(plotZoomed(const QRectF &)));
+    QSignalSpy changed(m_plot, SIGNAL(changeXSignal(const QRectF &)));
+
+    m_plot->zoomToRect(QRectF(11000.0, top, 20000.0, height));
+
+    QCOMPARE(zoomed.count(), zooms ? 1 : 0);
+    QCOMPARE(changed.count(), zooms ? 1 : 0);
+    if (!zooms) {
+        QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0);
+        return;
+    }
+    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), top);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), top + height);
+    QCOMPARE(lower(*m_plot, QwtPlot::xBottom), 11000.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 31000.0);
+    if (expectedStep > 0.0)
+        QVERIFY(near(majorStep(*m_plot, QwtPlot::yLeft), expectedStep, 1e-6));
+}
+
+void tst_Plot::rubberBandRescalesRightAxis()
+{
+    m_plot->enableRightAxis(true);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yRight, 0.0, 30.0);
+    m_plot->replot();
+    m_plot->setZoomBase();
+
+    // A real left drag over the canvas: from value 200 down to value 100.
+    const int x = 100;
+    const int y200 = int(m_plot->transform(QwtPlot::yLeft, 200.0));
+    const int y100 = int(m_plot->transform(QwtPlot::yLeft, 100.0));
+    QSignalSpy zoomed(m_plot, SIGNAL(plotZoomed(const QRectF &)));
+    QSignalSpy released(m_plot, SIGNAL(zoomRectangle()));
+    drag(m_plot->canvas(), Qt::LeftButton, QPoint(x, y200), QPoint(x + 150, y100));
+    QCOMPARE(zoomed.count(), 1);
+    QCOMPARE(released.count(), 1);
+    const QRectF rect = zoomed.first().first().toRectF();
+    QVERIFY(rect.height() > 90.0 && rect.height() < 110.0);
+    // Right bounds: 30 - |300 - top| x 0.1 and 30 - |300 - bottom| x 0.1, ascending.
+    QVERIFY(near(lower(*m_plot, QwtPlot::yRight), 30.0 - (300.0 - rect.top()) * 0.1));
+    QVERIFY(near(upper(*m_plot, QwtPlot::yRight), 30.0 - (300.0 - rect.bottom()) * 0.1));
+}
+
+void tst_Plot::zoomKeysOnlyRefreshTicks_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("Shift+O") << int(Qt::Key_O) << int(Qt::ShiftModifier);
+    QTest::newRow("Shift+I") << int(Qt::Key_I) << int(Qt::ShiftModifier);
+    QTest::newRow("Home") << int(Qt::Key_Home) << int(Qt::NoModifier);
+}
+
+void tst_Plot::zoomKeysOnlyRefreshTicks()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+
+    // Put something on the zoom stack first, so that walking it would be visible.
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 60000.0);
+    m_plot->replot();
+    m_plot->setZoomBase();
+    m_plot->zoomToRect(QRectF(10000.0, 50.0, 20000.0, 100.0));
+    m_plot->zoomToRect(QRectF(12000.0, 60.0, 10000.0, 50.0));
+    const double xLow = lower(*m_plot, QwtPlot::xBottom);
+    const double xHigh = upper(*m_plot, QwtPlot::xBottom);
+    const double yLow = lower(*m_plot, QwtPlot::yLeft);
+    const double yHigh = upper(*m_plot, QwtPlot::yLeft);
+    QSignalSpy zoomed(m_plot, SIGNAL(plotZoomed(const QRectF &)));
+
+    QTest::keyClick(m_plot->canvas(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+
+    QCOMPARE(zoomed.count(), 0);
+    QCOMPARE(lower(*m_plot, QwtPlot::xBottom), xLow);
+    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), xHigh);
+    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), yLow);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), yHigh);
+    // One major tick per 115 pixels of plot width.
+    const double expected = (xHigh - xLow) / (m_plot->width() / 115);
+    QVERIFY(near(majorStep(*m_plot, QwtPlot::xBottom), expected, 1e-6));
+}
+
+void tst_Plot::panClamp_data()
+{
+    QTest::addColumn<int>("maxOffset");
+    QTest::addColumn<int>("minOffset");
+    QTest::addColumn<int>("dy");
+    QTest::addColumn<double>("expectedHighest"); // < 0: check the lowest instead
+    QTest::addColumn<double>("expectedLowest");
+
+    // 330 pixels are worth about 140 value units on the test canvas: every drag overshoots.
+    QTest::newRow("up stops at the upper limit") << 0 << 0 << 330 << 300.0 << -1.0;
+    QTest::newRow("up stops at limit + offset") << 40 << 0 << 330 << 340.0 << -1.0;
+    QTest::newRow("down stops at the lower limit") << 0 << 0 << -330 << -1.0 << 0.0;
+    QTest::newRow("down stops at limit - offset") << 0 << 30 << -330 << -1.0 << -30.0;
+}
+
+void tst_Plot::panClamp()
+{
+    QFETCH(int, maxOffset);
+    QFETCH(int, minOffset);
+    QFETCH(int, dy);
+    QFETCH(double, expectedHighest);
+    QFETCH(double, expectedLowest);
+
+    m_plot->setPanMaxOffset(maxOffset);
+    m_plot->setPanMinOffset(minOffset);
+    m_plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0, 0.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 250.0);
+    m_plot->replot();
+    QSignalSpy panned(m_plot, SIGNAL(plotPanned(int, int)));
+
+    const QPoint from(200, dy > 0 ? 5 : 345);
+    drag(m_plot->canvas(), Qt::RightButton, from, from + QPoint(0, dy));
+
+    QCOMPARE(panned.count(), 1);
+    QCOMPARE(panned.first().at(1).toInt(), dy);
+    const double low = lower(*m_plot, QwtPlot::yLeft);
+    const double high = upper(*m_plot, QwtPlot::yLeft);
+    QVERIFY(near(high - low, 150.0, 1e-6));
+    // Pixel steps: within one pixel's worth of value of the limit, never past it.
+    const double onePixel = 150.0 / m_plot->canvas()->contentsRect().height() * 1.05;
+    if (expectedHighest >= 0.0) {
+        QVERIFY2(high <= expectedHighest + 1e-9 && high > expectedHighest - onePixel, qPrintable(QString::number(high)));
+    } else {
+        QVERIFY2(low >= expectedLowest - 1e-9 && low < expectedLowest + onePixel, qPrintable(QString::number(low)));
+    }
+}
+
+void tst_Plot::disabledToolsIgnoreInput()
+{
+    m_plot->setEnabled(false);
+    QVERIFY(!m_plot->isPlotEnabled());
+    QVERIFY(!m_plot->poZoomer()->isEnabled());
+    QVERIFY(!m_plot->poPanner()->isEnabled());
+    QVERIFY(!m_plot->poValueMagnifier()->isEnabled());
+    QVERIFY(!m_plot->poTimeMagnifier()->isEnabled());
+
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 200.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 1000.0);
+    m_plot->replot();
+    QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
+    wheel(m_plot->canvas(), QPoint(100, 100), -120);
+    drag(m_plot->canvas(), Qt::RightButton, QPoint(200, 100), QPoint(200, 150));
+    m_plot->zoomToRect(QRectF(100.0, 120.0, 200.0, 20.0));
+    QCOMPARE(magnified.count(), 0);
+    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 100.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 200.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 1000.0);
+
+    m_plot->setEnabled(true);
+    wheel(m_plot->canvas(), QPoint(100, 100), -120);
+    QCOMPARE(magnified.count(), 1);
+    QVERIFY(upper(*m_plot, QwtPlot::xBottom) < 1000.0);
+}
+
+void tst_Plot::zoomToolBar()
+{
+    QWidget *parent = m_plot->parentWidget();
+    QWidget *bar = m_plot->embedZoomToolBar();
+    QVERIFY(bar);
+    QCOMPARE(bar->parentWidget(), parent);
+    QCOMPARE(m_plot->parentWidget(), bar);
+    QCOMPARE(m_plot->embedZoomToolBar(), bar); // built once
+    QHBoxLayout *container = m_plot->getPlotContainer();
+    QVERIFY(container);
+    QCOMPARE(container->count(), 2);
+    QCOMPARE(container->itemAt(1)->widget(), static_cast<QWidget *>(m_plot));
+    QWidget *column = container->itemAt(0)->widget();
+    QCOMPARE(column->height(), 70);
+    QCOMPARE(column->styleSheet(), QStringLiteral("QWidget {border: 0px margin: 0px; padding:0px;}"));
+
+    QPushButton *in = m_plot->poZoomInButton();
+    QPushButton *reset = m_plot->poResetZoomButton();
+    QPushButton *out = m_plot->poZoomOutButton();
+    auto *columnLayout = qobject_cast<QVBoxLayout *>(column->layout());
+    QVERIFY(columnLayout);
+    QCOMPARE(columnLayout->itemAt(0)->widget(), static_cast<QWidget *>(in));
+    QCOMPARE(columnLayout->itemAt(1)->widget(), static_cast<QWidget *>(reset));
+    QCOMPARE(columnLayout->itemAt(2)->widget(), static_cast<QWidget *>(out));
+    QCOMPARE(in->toolTip(), QStringLiteral("Zoom In"));
+    QCOMPARE(out->toolTip(), QStringLiteral("Zoom Out"));
+    QCOMPARE(reset->toolTip(), QStringLiteral("Reset Zoom"));
+    QCOMPARE(in->size(), QSize(20, 20));
+    QCOMPARE(reset->size(), QSize(20, 10));
+    for (QPushButton *button : {in, reset, out}) {
+        QVERIFY(!button->icon().isNull());
+        QVERIFY(button->text().isEmpty());
+        QCOMPARE(button->cursor().shape(), Qt::PointingHandCursor);
+    }
+
+    QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
+    QSignalSpy noise(m_plot, SIGNAL(zommResetForNoiseLine()));
+    QTest::mouseClick(in, Qt::LeftButton);
+    QCOMPARE(magnified.count(), 1);
+    QCOMPARE(magnified.first().first().toDouble(), 0.8);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 240.0);
+    QTest::mouseClick(out, Qt::LeftButton);
+    QCOMPARE(magnified.last().first().toDouble(), 1.2);
+    QVERIFY(near(upper(*m_plot, QwtPlot::yLeft), 288.0));
+    QVERIFY(!m_plot->getZoomResetClick());
+
+    QTest::mouseClick(reset, Qt::LeftButton);
+    QCOMPARE(noise.count(), 1);
+    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 0.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0);
+    QVERIFY(m_plot->getZoomResetClick()); // set by the reset, cleared by the next zoom step
+    QTest::mouseClick(in, Qt::LeftButton);
+    QVERIFY(!m_plot->getZoomResetClick());
+}
+
+void tst_Plot::zoomResetRestoresLimits()
+{
+    m_plot->enableRightAxis(true);
+    m_plot->setAxisScale(QwtPlot::yRight, -10.0, 10.0, 0.0);
+    m_plot->setAxisScale(QwtPlot::yLeft, 20.0, 220.0, 0.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 60.0, 80.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yRight, 1.0, 2.0);
+    m_plot->replot();
+    QList<double> factors;
+    QList<bool> resetFlags;
+    connect(m_plot, &Plot::PlotScrollMagnified, this, [&](double factor) {
+        factors << factor;
+        resetFlags << m_plot->getZoomResetClick();
+    });
+
+    m_plot->zoomResetButtonClicked();
+
+    // 0.0 (flag set), 0.8 and 1.2 (flag cleared), 0.0 again (flag set).
+    QCOMPARE(factors, (QList<double>{0.0, 0.8, 1.2, 0.0}));
+    QCOMPARE(resetFlags, (QList<bool>{true, false, false, true}));
+    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 20.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 220.0);
+    QCOMPARE(lower(*m_plot, QwtPlot::yRight), -10.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::yRight), 10.0);
+    QCOMPARE(majorStep(*m_plot, QwtPlot::yRight), 2.0);
+}
+
+void tst_Plot::timeAxisButtons()
+{
+    m_plot->vSetXAxis(10000.0, 50000.0);
+    QCOMPARE(m_plot->poTimeMagnifier()->getMinXRange(), 10000.0);
+    QCOMPARE(m_plot->poTimeMagnifier()->getMaxXRange(), 50000.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 20000.0, 30000.0);
+    m_plot->replot();
+
+    m_plot->zoomPlusXButtonClicked();
+    QVERIFY(near(upper(*m_plot, QwtPlot::xBottom) - lower(*m_plot, QwtPlot::xBottom), 8000.0));
+    m_plot->zoomMinusXButtonClicked();
+    QVERIFY(near(upper(*m_plot, QwtPlot::xBottom) - lower(*m_plot, QwtPlot::xBottom), 9600.0));
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0); // the value axis is left alone
+
+    m_plot->zoomResetXButtonClicked();
+    QCOMPARE(lower(*m_plot, QwtPlot::xBottom), 10000.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 50000.0);
+    QVERIFY(m_plot->getZoomResetClick());
+
+    // A time span at the maximum X range refuses to grow.
+    m_plot->vSetXAxis(0.0, 1000.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 1000.0);
+    m_plot->replot();
+    m_plot->zoomMinusXButtonClicked();
+    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 1000.0);
+}
+
+void tst_Plot::zoomResetRectangle()
+{
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 1000.0, 5000.0);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 10.0, 110.0);
+    m_plot->replot();
+    QCOMPARE(m_plot->zoomReset(0.0), QRectF());
+    QCOMPARE(m_plot->zoomReset(7000.0), QRectF(7000.0, 10.0, 4000.0, 100.0));
+    QCOMPARE(lower(*m_plot, QwtPlot::xBottom), 1000.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 5000.0);
+}
+
+void tst_Plot::doubleClick_data()
+{
+    QTest::addColumn<bool>("independent");
+    QTest::newRow("synchronised plot") << false;
+    QTest::newRow("independent plot") << true;
+}
+
+void tst_Plot::doubleClick()
+{
+    QFETCH(bool, independent);
+    m_plot->setIndependentPlot(independent);
+    QCOMPARE(m_plot->checkIndependentPlot(), independent);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 50.0, 70.0);
+    m_plot->replot();
+    QSignalSpy noise(m_plot, SIGNAL(zommResetForNoiseLine()));
+    QSignalSpy independentClick(m_plot, SIGNAL(IndependentPlotDoubleClick()));
+
+    QTest::mouseDClick(m_plot->canvas(), Qt::LeftButton, Qt::NoModifier, QPoint(120, 120));
+
+    QCOMPARE(noise.count(), 1);
+    QCOMPARE(independentClick.count(), independent ? 1 : 0);
+    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 0.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0);
+}
+
+void tst_Plot::leftPressAndRelease()
+{
+    QSignalSpy coordinate(m_plot, SIGNAL(getMouseCoordinate(QPoint)));
+    QSignalSpy released(m_plot, SIGNAL(zoomRectangle()));
+    const QPoint pos(150, 90);
+    QTest::mouseClick(m_plot->canvas(), Qt::LeftButton, Qt::NoModifier, pos);
+    QCOMPARE(coordinate.count(), 0); // only independent plots report presses
+    QCOMPARE(released.count(), 1);
+
+    m_plot->setIndependentPlot(true);
+    QTest::mouseClick(m_plot->canvas(), Qt::LeftButton, Qt::NoModifier, pos);
+    QCOMPARE(coordinate.count(), 1);
+    QCOMPARE(coordinate.first().first().toPoint(), m_plot->canvas()->mapToGlobal(pos));
+    QCOMPARE(released.count(), 2);
+}
+
+void tst_Plot::clickPicker()
+{
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 1000.0);
+    m_plot->replot();
+    m_plot->vSetZoomUnderMouse(true);
+    QSignalSpy coordinate(m_plot, SIGNAL(getMouseCoordinate(QPoint)));
+    const QPoint pos(200, 100);
+    QTest::mouseClick(m_plot->canvas(), Qt::LeftButton, Qt::NoModifier, pos);
+    QCOMPARE(coordinate.count(), 1);
+    const QPoint expected(qRound(m_plot->invTransform(QwtPlot::xBottom, pos.x())),
+                          qRound(m_plot->invTransform(QwtPlot::yLeft, pos.y())));
+    QCOMPARE(coordinate.first().first().toPoint(), expected);
+}
+
+void tst_Plot::axisMenu()
+{
+    QSignalSpy changed(m_plot, SIGNAL(axisChanged()));
+    QwtScaleWidget *axis = m_plot->axisWidget(QwtPlot::xBottom);
+    const QPoint onAxis = axis->rect().center();
+
+    MenuDriver first;
+    first.clickWhenShown(QStringLiteral("Date + Time"));
+    QTest::mousePress(axis, Qt::RightButton, Qt::NoModifier, onAxis);
+    QVERIFY(first.done);
+    QCOMPARE(first.offered, (QStringList{QStringLiteral("Time"), QStringLiteral("Date + Time")}));
+    QCOMPARE(first.checked, QStringList{QStringLiteral("Time")}); // default 0
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(readAxisType(), 1);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 30000.0);
+    m_plot->replot();
+    QVERIFY(m_plot->poTimeScaleDraw()->label(0.0).text().contains(QStringLiteral(" \r\n")));
+
+    MenuDriver second;
+    second.clickWhenShown(QStringLiteral("Time"));
+    QTest::mousePress(axis, Qt::RightButton, Qt::NoModifier, onAxis);
+    QVERIFY(second.done);
+    QCOMPARE(second.checked, QStringList{QStringLiteral("Date + Time")});
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(readAxisType(), 0);
+    QVERIFY(!m_plot->poTimeScaleDraw()->label(0.0).text().contains(QStringLiteral("\n")));
+}
+
+void tst_Plot::axisMenuElsewhereDoesNothing()
+{
+    QSignalSpy changed(m_plot, SIGNAL(axisChanged()));
+    // On an independent plot the axis offers no menu; on the left axis neither.
+    m_plot->setIndependentPlot(true);
+    QTest::mousePress(m_plot->axisWidget(QwtPlot::xBottom), Qt::RightButton, Qt::NoModifier,
+                      m_plot->axisWidget(QwtPlot::xBottom)->rect().center());
+    m_plot->setIndependentPlot(false);
+    QTest::mousePress(m_plot->axisWidget(QwtPlot::yLeft), Qt::RightButton, Qt::NoModifier,
+                      m_plot->axisWidget(QwtPlot::yLeft)->rect().center());
+    QCOMPARE(QApplication::activePopupWidget(), nullptr);
+    QCOMPARE(changed.count(), 0);
+    QVERIFY(!QFile::exists(settingsFile()));
+
+    // Dismissing the menu writes nothing.
+    MenuDriver dismiss;
+    dismiss.clickWhenShown(QStringLiteral("no such entry"));
+    QTest::mousePress(m_plot->axisWidget(QwtPlot::xBottom), Qt::RightButton, Qt::NoModifier,
+                      m_plot->axisWidget(QwtPlot::xBottom)->rect().center());
+    QVERIFY(dismiss.done);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(readAxisType(), -1);
+}
+
+void tst_Plot::timeLabels_data()
+{
+    QTest::addColumn<int>("axisType");
+    QTest::addColumn<double>("span");
+    QTest::addColumn<QString>("format");
+
+    QTest::newRow("59 999 ms: seconds") << 0 << 59999.0 << QStringLiteral("hh:mm:ss");
+    QTest::newRow("60 000 ms: minutes") << 0 << 60000.0 << QStringLiteral("hh:mm");
+    QTest::newRow("one hour") << 0 << 3.6e6 << QStringLiteral("hh:mm");
+    QTest::newRow("just under a day") << 0 << 8.64e7 - 1.0 << QStringLiteral("hh:mm");
+    QTest::newRow("one day: date") << 0 << 8.64e7 << QStringLiteral("dd.MM.yyyy");
+    QTest::newRow("date mode, 59 999 ms") << 1 << 59999.0 << QStringLiteral("dd.MM.yyyy \r\nhh:mm:ss");
+    QTest::newRow("date mode, 60 000 ms") << 1 << 60000.0 << QStringLiteral("dd.MM.yyyy \r\nhh:mm");
+    QTest::newRow("date mode, one day: date only") << 1 << 8.64e7 << QStringLiteral("dd.MM.yyyy");
+}
+
+void tst_Plot::timeLabels()
+{
+    QFETCH(int, axisType);
+    QFETCH(double, span);
+    QFETCH(QString, format);
+
+    writeAxisType(axisType);
+    const double start = 1700000000123.9; // fractions of a millisecond are truncated
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, start, start + span);
+    m_plot->replot();
+    const QString label = m_plot->poTimeScaleDraw()->label(start).text();
+    QCOMPARE(label, QDateTime::fromMSecsSinceEpoch(1700000000123).toString(format));
+}
+
+void tst_Plot::displayValueLabels()
+{
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 2000.0);
+    m_plot->enableXAxisDisplayValue(true);
+    QVERIFY(m_plot->poTimeScaleDraw()->displayValue());
+    QCOMPARE(m_plot->poTimeScaleDraw()->label(1234.5678).text(), QStringLiteral("1234.57"));
+    QCOMPARE(m_plot->poTimeScaleDraw()->label(1.5e12).text(), QStringLiteral("1.5e+12"));
+    m_plot->enableXAxisDisplayValue(false);
+    QCOMPARE(m_plot->poTimeScaleDraw()->label(0.0).text(), QDateTime::fromMSecsSinceEpoch(0).toString("hh:mm:ss"));
+
+    ExtScaleDraw deep;
+    QCOMPARE(deep.label(100.0012345).text(), QStringLiteral("100.0012"));
+}
+
+void tst_Plot::trackerText()
+{
+    Utils::TimePicker picker(m_plot->canvas());
+    const QwtText text = picker.trackerTextF(QPointF(1700000000456.7, 12.345678));
+    QCOMPARE(text.text(), QDateTime::fromMSecsSinceEpoch(1700000000456).toString("hh:mm:ss.zzz")
+                              + QStringLiteral(", 12.3457"));
+    QCOMPARE(text.backgroundBrush().color(), QColor(255, 255, 255, 200));
+}
+
+void tst_Plot::languageChange()
+{
+    m_plot->embedZoomToolBar();
+    m_plot->poZoomInButton()->setToolTip(QStringLiteral("x"));
+    m_plot->poZoomOutButton()->setToolTip(QStringLiteral("y"));
+    m_plot->poResetZoomButton()->setToolTip(QStringLiteral("z"));
+    QEvent change(QEvent::LanguageChange);
+    QApplication::sendEvent(m_plot, &change);
+    QCOMPARE(m_plot->poZoomInButton()->toolTip(), QStringLiteral("Zoom In"));
+    QCOMPARE(m_plot->poZoomOutButton()->toolTip(), QStringLiteral("Zoom Out"));
+    QCOMPARE(m_plot->poResetZoomButton()->toolTip(), QStringLiteral("z")); // deliberately not retranslated
+}
+
+void tst_Plot::resizeEmitsAxisChanged()
+{
+    QSignalSpy changed(m_plot, SIGNAL(axisChanged()));
+    m_host->resize(700, 500);
+    QTRY_VERIFY(changed.count() >= 1);
+}
+
+QTEST_MAIN(tst_Plot)
+#include "tst_plot.moc"
