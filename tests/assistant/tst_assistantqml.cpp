@@ -127,7 +127,7 @@ import Element 1.0
 QtObject {
     property int pages: assistant.content.length
     property int teachElements: pages > 0 ? assistant.content[0].elements.length : -1
-    property string lastTitle: pages > 0 ? assistant.content[pages - 1].elements[1].title : ""
+    property string lastTitle: pages > 1 ? assistant.content[pages - 1].elements[1].title : ""
     property bool firstIsSpinBox: teachElements > 0 && assistant.content[0].elements[0].typeID === Element.SpinBox
     property int spinValue: teachElements > 0 ? assistant.content[0].elements[0].spinValue : -1
     property bool isDefault: assistant.isDefault
