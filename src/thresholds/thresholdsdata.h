@@ -32,8 +32,12 @@ namespace Utils {
 class UTILS_EXPORT ThresholdsData : public Observable
 {
 public:
-    //! The channels; the numbering is used as an index by managers and widgets.
-    enum Component {
+    /*!
+        The channels; the numbering is used as an index by managers and widgets.
+        The underlying type is fixed so that any int, also one outside 0..8, is
+        a well-defined Component that the operations can reject.
+    */
+    enum Component : int {
         Hue = 0,
         Red = 1,
         Green = 2,

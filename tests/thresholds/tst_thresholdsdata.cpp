@@ -126,6 +126,10 @@ void tst_ThresholdsData::outOfRangeComponent()
     }
     // Setters notify even when nothing was stored.
     QCOMPARE(observer.calls, 6);
+    // Found by the fuzzer: a negative component with a short string.
+    data.setFromHexString(ThresholdsData::Component(-11), "0032zz1400200");
+    QCOMPARE(observer.calls, 6);
+    QCOMPARE(data.noise(ThresholdsData::Component(-11)), -1);
     for (int c = ThresholdsData::Hue; c <= ThresholdsData::Extra3; ++c)
         QCOMPARE(data.low(ThresholdsData::Component(c)), 0.0);
 }
