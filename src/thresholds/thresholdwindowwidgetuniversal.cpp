@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "thresholdwindowwidgetuniversal.h"
+
+#include "plot/plotmarker.h"
+
+#include <qwt_plot.h>
+
+#include <QLabel>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace Utils {
+
+struct ThresholdWindowWidgetUniversal::Private
+{
+    QPointer<QLabel> sizeLabel;
+    bool sizeVisible = false;
+    bool oneDecimal = false;
+    bool customThresholds = false;
+};
+
+ThresholdWindowWidgetUniversal::ThresholdWindowWidgetUniversal(QwtPlot *plot, int componentIndex)
+    : ThresholdWindowWidget(plot, componentIndex)
+    , d(std::make_unique<Private>())
+{
+    if (!plot)
+        return;
+    d->sizeLabel = new QLabel(plot->canvas());
+    d->sizeLabel->setObjectName(QStringLiteral("windowSizeLabel"));
+    d->sizeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    d->sizeLabel->setStyleSheet(QStringLiteral("QLabel { background: rgba(255, 255, 255, 200); padding: 1px 3px; }"));
+    d->sizeLabel->hide();
+}
+
+ThresholdWindowWidgetUniversal::~ThresholdWindowWidgetUniversal()
+{
+    delete d->sizeLabel.data();
+}
+
+double ThresholdWindowWidgetUniversal::windowSize() const
+{
+    if (!poUpperMark() || !poLowerMark())
+        return 0.0;
+    return poUpperMark()->value() - poLowerMark()->value();
+}
+
+void ThresholdWindowWidgetUniversal::setWindowSizeVisible(bool visible)
+{
+    d->sizeVisible = visible;
+    zonesUpdated();
+}
+
+bool ThresholdWindowWidgetUniversal::getWindowSizeVisible() const
+{
+    return d->sizeVisible;
+}
+
+PlotMarker *ThresholdWindowWidgetUniversal::getUpperMark() const
+{
+    return poUpperMark();
+}
+
+PlotMarker *ThresholdWindowWidgetUniversal::getLowerMark() const
+{
+    return poLowerMark();
+}
+
+void ThresholdWindowWidgetUniversal::setUpperMarkerValue(double value, QString text)
+{
+    if (PlotMarker *mark = poUpperMark())
+        mark->setUpperValue(value, text);
+    setUpperMark(value);
+}
+
+void ThresholdWindowWidgetUniversal::setLowerMarkerValue(double value, QString text)
+{
+    if (PlotMarker *mark = poLowerMark())
+        mark->setLowerValue(value, text);
+    setLowerMark(value);
+}
+
+void ThresholdWindowWidgetUniversal::formatText(bool oneDecimal)
+{
+    d->oneDecimal = oneDecimal;
+    for (PlotMarker *mark : {poUpperMark(), poLowerMark()}) {
+        if (mark)
+            mark->setText(oneDecimal);
+    }
+    zonesUpdated();
+}
+
+void ThresholdWindowWidgetUniversal::vSetRestrictionFactor(int restriction)
+{
+    for (PlotMarker *mark : {poUpperMark(), poLowerMark()}) {
+        if (mark)
+            mark->vSetRestrictionCustom(restriction);
+    }
+}
+
+bool ThresholdWindowWidgetUniversal::overlapping() const
+{
+    return isOverlappingAllowed();
+}
+
+void ThresholdWindowWidgetUniversal::vSetCustomThreshold(bool custom)
+{
+    d->customThresholds = custom;
+}
+
+bool ThresholdWindowWidgetUniversal::bGtCustomThresholds() const
+{
+    return d->customThresholds;
+}
+
+void ThresholdWindowWidgetUniversal::showLowerMark(bool show)
+{
+    if (PlotMarker *mark = poLowerMark())
+        mark->showPlotMarker(show);
+    zonesUpdated();
+}
+
+void ThresholdWindowWidgetUniversal::showUpperMark(bool show)
+{
+    if (PlotMarker *mark = poUpperMark())
+        mark->showPlotMarker(show);
+    zonesUpdated();
+}
+
+void ThresholdWindowWidgetUniversal::vDisabledUpperMark(bool disabled)
+{
+    if (PlotMarker *mark = poUpperMark())
+        mark->vDisablePlotMarker(!disabled);
+}
+
+void ThresholdWindowWidgetUniversal::vDisabledLowerMark(bool disabled)
+{
+    if (PlotMarker *mark = poLowerMark())
+        mark->vDisablePlotMarker(!disabled);
+}
+
+bool ThresholdWindowWidgetUniversal::isLowerMarkVisible() const
+{
+    return poLowerMark() && poLowerMark()->isPlotMarkerVisible();
+}
+
+bool ThresholdWindowWidgetUniversal::isUpperMarkVisible() const
+{
+    return poUpperMark() && poUpperMark()->isPlotMarkerVisible();
+}
+
+QWidget *ThresholdWindowWidgetUniversal::poWindowSizeLabel() const
+{
+    return d->sizeLabel;
+}
+
+void ThresholdWindowWidgetUniversal::zonesUpdated()
+{
+    // Called from the base constructor's members before this class's record exists.
+    if (!d || !d->sizeLabel || !poPlot())
+        return;
+    if (!d->sizeVisible || !isUpperMarkVisible() || !isLowerMarkVisible()) {
+        d->sizeLabel->hide();
+        return;
+    }
+    QwtPlot *plot = poPlot();
+    d->sizeLabel->setText(QString::number(windowSize(), 'f', d->oneDecimal ? 1 : 2));
+    d->sizeLabel->adjustSize();
+    const double middle = (poUpperMark()->value() + poLowerMark()->value()) / 2.0;
+    const int y = int(plot->transform(QwtPlot::yLeft, middle)) - d->sizeLabel->height() / 2;
+    const int x = plot->canvas()->width() - d->sizeLabel->width() - 4;
+    d->sizeLabel->move(std::max(x, 0), y);
+    d->sizeLabel->show();
+    d->sizeLabel->raise();
+}
+
+} // namespace Utils
