@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "plottesthelpers.h"
+
+#include <plot/chartthreshold.h>
+#include <plot/chartthresholdmanager.h>
+#include <plot/plot.h>
+#include <plot/plotmarker.h>
+
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace PlotTest;
+using Utils::ChartItem;
+using Utils::ChartThresholdManager;
+using Utils::PlotMarker;
+
+class tst_ChartThresholdManager : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void addAndFind();
+    void setItemValueEmitsNothing();
+    void dragEndEmitsBothForms();
+    void removeItem();
+    void setItemRange();
+    void replacedNameKeepsBothItems();
+    void chartThresholdWidget();
+
+private:
+    //! Records both itemChanged forms in emission order.
+    void record(ChartThresholdManager &manager);
+    void dragDown(PlotMarker *marker, int pixels);
+
+    std::unique_ptr<QWidget> m_host;
+    Utils::Plot *m_plot = nullptr;
+    std::vector<std::pair<ChartItem *, double>> m_byItem;
+    std::vector<std::pair<std::string, double>> m_byName;
+};
+
+void tst_ChartThresholdManager::init()
+{
+    m_host.reset(new QWidget);
+    auto *layout = new QVBoxLayout(m_host.get());
+    m_plot = new Utils::Plot(m_host.get());
+    layout->addWidget(m_plot);
+    m_host->resize(600, 400);
+    m_host->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_host.get()));
+    m_plot->replot();
+    m_byItem.clear();
+    m_byName.clear();
+}
+
+void tst_ChartThresholdManager::cleanup()
+{
+    m_host.reset();
+}
+
+void tst_ChartThresholdManager::record(ChartThresholdManager &manager)
+{
+    // std::string is not a registered meta type, so the name form is caught by a lambda.
+    connect(&manager, qOverload<ChartItem *, double>(&ChartThresholdManager::itemChanged), this,
+            [this](ChartItem *item, double v) { m_byItem.emplace_back(item, v); });
+    connect(&manager, qOverload<std::string, double>(&ChartThresholdManager::itemChanged), this,
+            [this](std::string name, double v) {
+                QCOMPARE(m_byItem.size(), m_byName.size() + 1); // the item form comes first
+                m_byName.emplace_back(std::move(name), v);
+            });
+}
+
+void tst_ChartThresholdManager::dragDown(PlotMarker *marker, int pixels)
+{
+    const QPoint grip(20, marker->height() / 2);
+    QTest::mousePress(marker, Qt::LeftButton, Qt::NoModifier, grip);
+    for (int step = 1; step <= 3; ++step)
+        dragMove(marker, grip + QPoint(0, pixels * step / 3), Qt::LeftButton);
+    QTest::mouseRelease(marker, Qt::LeftButton, Qt::NoModifier, grip + QPoint(0, pixels));
+}
+
+void tst_ChartThresholdManager::addAndFind()
+{
+    ChartThresholdManager manager(m_plot);
+    QVERIFY(manager.allowOverlapping());
+    manager.setAllowOverlapping(false);
+    QVERIFY(!manager.allowOverlapping());
+
+    const int childrenBefore = m_plot->canvas()->findChildren<PlotMarker *>().size();
+    QCOMPARE(manager.addItem(""), nullptr);
+    QCOMPARE(m_plot->canvas()->findChildren<PlotMarker *>().size(), childrenBefore);
+
+    ChartItem *item = manager.addItem("upper");
+    auto *marker = dynamic_cast<PlotMarker *>(item);
+    QVERIFY(marker);
+    QCOMPARE(marker->mode(), PlotMarker::Mode(1));
+    QVERIFY(!marker->isVisible()); // hidden until a positive value
+    QCOMPARE(manager.item("upper"), item);
+    QCOMPARE(manager.item("lower"), nullptr);
+    manager.setItemValue("upper", 120.0);
+    QVERIFY(marker->isVisible());
+    QCOMPARE(item->value(), 120.0);
+    manager.setItemValue("", 5.0); // ignored
+    manager.setItemValue("unknown", 5.0);
+    QCOMPARE(item->value(), 120.0);
+}
+
+void tst_ChartThresholdManager::setItemValueEmitsNothing()
+{
+    ChartThresholdManager manager(m_plot);
+    record(manager);
+    manager.addItem("a");
+    manager.setItemValue("a", 80.0);
+    manager.setItemValue("a", 90.0);
+    QVERIFY(m_byItem.empty());
+    QVERIFY(m_byName.empty());
+}
+
+void tst_ChartThresholdManager::dragEndEmitsBothForms()
+{
+    ChartThresholdManager manager(m_plot);
+    record(manager);
+    auto *marker = static_cast<PlotMarker *>(manager.addItem("noise"));
+    manager.addItem("other")->setValue(200.0);
+    marker->setMoveable(true);
+    manager.setItemValue("noise", 150.0);
+
+    const QPoint grip(20, marker->height() / 2);
+    QTest::mousePress(marker, Qt::LeftButton, Qt::NoModifier, grip);
+    dragMove(marker, grip + QPoint(0, 10), Qt::LeftButton);
+    dragMove(marker, grip + QPoint(0, 20), Qt::LeftButton);
+    QVERIFY(m_byItem.empty()); // nothing while the drag is under way
+    QTest::mouseRelease(marker, Qt::LeftButton, Qt::NoModifier, grip + QPoint(0, 20));
+
+    QCOMPARE(m_byItem.size(), size_t(1));
+    QCOMPARE(m_byName.size(), size_t(1));
+    QCOMPARE(m_byItem.front().first, static_cast<ChartItem *>(marker));
+    QCOMPARE(m_byItem.front().second, marker->value());
+    QCOMPARE(m_byName.front().first, std::string("noise"));
+    QCOMPARE(m_byName.front().second, marker->value());
+    QVERIFY(marker->value() < 150.0);
+}
+
+void tst_ChartThresholdManager::removeItem()
+{
+    ChartThresholdManager manager(m_plot);
+    record(manager);
+    auto *kept = static_cast<PlotMarker *>(manager.addItem("kept"));
+    manager.addItem("gone");
+    manager.removeItem("");
+    manager.removeItem("unknown");
+    QVERIFY(manager.item("gone"));
+    manager.removeItem("gone");
+    QCOMPARE(manager.item("gone"), nullptr);
+    QVERIFY(manager.item("kept"));
+
+    kept->setMoveable(true);
+    manager.setItemValue("kept", 100.0);
+    dragDown(kept, 15);
+    QCOMPARE(m_byName.size(), size_t(1));
+    QCOMPARE(m_byName.front().first, std::string("kept"));
+}
+
+void tst_ChartThresholdManager::setItemRange()
+{
+    ChartThresholdManager manager(m_plot);
+    auto *marker = static_cast<PlotMarker *>(manager.addItem("r"));
+    manager.setItemRange("r", 10.0, 90.0);
+    QCOMPARE(marker->lower(), 10.0);
+    QCOMPARE(marker->upper(), 90.0);
+    manager.setItemRange("", 1.0, 2.0);
+    manager.setItemRange("missing", 1.0, 2.0);
+    QCOMPARE(marker->lower(), 10.0);
+}
+
+void tst_ChartThresholdManager::replacedNameKeepsBothItems()
+{
+    auto manager = std::make_unique<ChartThresholdManager>(m_plot);
+    record(*manager);
+    auto *first = static_cast<PlotMarker *>(manager->addItem("x"));
+    auto *second = static_cast<PlotMarker *>(manager->addItem("x"));
+    QVERIFY(first != second);
+    QCOMPARE(manager->item("x"), static_cast<ChartItem *>(second));
+    // The replaced item is still observed and still known by its name.
+    first->setMoveable(true);
+    first->setValue(100.0);
+    dragDown(first, 10);
+    QCOMPARE(m_byName.size(), size_t(1));
+    QCOMPARE(m_byItem.front().first, static_cast<ChartItem *>(first));
+    QCOMPARE(m_byName.front().first, std::string("x"));
+
+    // Both are deleted with the manager.
+    QPointer<PlotMarker> a(first), b(second);
+    manager.reset();
+    QVERIFY(a.isNull() && b.isNull());
+}
+
+void tst_ChartThresholdManager::chartThresholdWidget()
+{
+    // The widget form of a chart item: a plot child that subclasses give a value.
+    struct Line : public Utils::ChartThreshold
+    {
+        using ChartThreshold::ChartThreshold;
+        double v = 0.0;
+        void setValue(const double &value) override { v = value; }
+        void setValueText(const std::string &text) override { v = std::stod(text); }
+        double value() const override { return v; }
+        std::string valueText() const override { return std::to_string(v); }
+    };
+    Line line(m_plot);
+    QCOMPARE(line.parentWidget(), static_cast<QWidget *>(m_plot));
+    line.setValueText("2.5");
+    QCOMPARE(line.value(), 2.5);
+    QCOMPARE(line.name(), std::string());
+}
+
+QTEST_MAIN(tst_ChartThresholdManager)
+#include "tst_chartthresholdmanager.moc"
