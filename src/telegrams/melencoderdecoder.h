@@ -42,7 +42,8 @@ public:
 
     /*!
         Empties \a oText, although it is passed as a constant reference, and
-        returns false. Existing callers depend on their string being cleared.
+        returns false. Existing callers depend on their string being cleared; the
+        string must therefore not be a const object itself.
     */
     bool toString(const std::string &oText);
 

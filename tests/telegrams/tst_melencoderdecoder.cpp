@@ -121,7 +121,7 @@ void tst_MelEncoderDecoder::partialCodec()
 {
     // toString clears the caller's text although it takes a constant reference.
     MelData data;
-    const std::string text = "0102030A";
+    std::string text = "0102030A";
     QVERIFY(!data.toString(text));
     QVERIFY(text.empty());
 
