@@ -465,6 +465,10 @@ QWidget *Plot::embedZoomToolBar()
     connect(d->resetZoomButton, &QPushButton::clicked, this, &Plot::vZoomResetButtonClicked);
     connect(d->zoomOutButton, &QPushButton::clicked, this, &Plot::zoomMinusButtonClicked);
 
+    // The outer style sheet cascades to the canvas and would replace its white
+    // palette with the window colour; a canvas rule of its own keeps it white.
+    canvas()->setStyleSheet(QStringLiteral("QwtPlotCanvas {background-color: white;}"));
+
     d->plotContainer = new QHBoxLayout(outer);
     d->plotContainer->setContentsMargins(0, 0, 0, 0);
     d->plotContainer->addWidget(column, 0, Qt::AlignTop);

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "plotpage.h"
+
+#include <plot/plot.h>
+#include <plot/plotmarker.h>
+
+#include <qwt_plot_curve.h>
+
+#include <QDateTime>
+#include <QLabel>
+#include <QRandomGenerator>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace {
+constexpr int SampleIntervalMs = 100;
+constexpr double WindowMs = 50000.0; // below a minute the time axis shows seconds
+constexpr int MaxSamples = int(WindowMs) / SampleIntervalMs;
+} // namespace
+
+PlotPage::PlotPage(QWidget *parent)
+    : DemoPage(parent)
+    , m_plot(new Utils::Plot(this))
+    , m_plotWithButtons(nullptr)
+    , m_curve(new QwtPlotCurve(tr("Distance")))
+    , m_upper(nullptr)
+    , m_lower(nullptr)
+    , m_status(new QLabel(this))
+    , m_timer(new QTimer(this))
+{
+    setObjectName(QStringLiteral("plot"));
+
+    m_plot->setObjectName(QStringLiteral("distancePlot"));
+    m_plot->setAxisTitle(QwtPlot::yLeft, tr("Distance [mm]"));
+    m_plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0);
+    m_plot->setMinimumSize(400, 250);
+    m_curve->setPen(QColor(94, 137, 206), 2.0);
+    m_curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+    m_curve->attach(m_plot);
+
+    // Centre zoom asks where to centre: on the newest sample.
+    connect(m_plot, &Utils::Plot::zoomCenterSignalEvent, this, [this](double &centre) {
+        if (!m_values.isEmpty())
+            centre = m_values.last();
+    });
+
+    m_upper = new Utils::PlotMarker(m_plot, Utils::PlotMarker::ModeThreshold);
+    m_lower = new Utils::PlotMarker(m_plot, Utils::PlotMarker::ModeThreshold);
+    m_upper->vSetPen(QPen(QColor(200, 0, 0, 170), 2, Qt::DashLine));
+    m_lower->vSetPen(QPen(QColor(0, 140, 60, 170), 2, Qt::DashLine));
+    m_upper->setThickness(6);
+    m_lower->setThickness(6);
+    m_lower->setNoiseOrientation(Utils::PlotMarker::OrientationBandBelow);
+    m_upper->setUpperValue(300.0, tr("Top of range: "));
+    m_lower->setLowerValue(0.0, tr("Bottom of range: "));
+    for (Utils::PlotMarker *marker : {m_upper, m_lower}) {
+        marker->setMoveable(true);
+        marker->setRange(0.0, 300.0);
+        marker->vSetRestrictionCustom(0);
+        connect(marker, &Utils::PlotMarker::valueChanged, this, &PlotPage::showMarkerValues);
+    }
+    m_upper->setValue(190.0);
+    m_lower->setValue(110.0);
+
+    // The zoom buttons sit in a column beside the plot; the returned widget takes the plot's place.
+    m_plotWithButtons = m_plot->embedZoomToolBar();
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(tr("Simulated laser distance over the last 50 seconds. Wheel: zoom; left drag: zoom "
+                                    "to a rectangle; right drag: pan; double click: reset; right click on the time "
+                                    "axis: time format. Drag the two dashed markers."),
+                                 this));
+    layout->itemAt(0)->widget()->setProperty("wordWrap", true);
+    layout->addWidget(m_plotWithButtons, 1);
+    layout->addWidget(m_status);
+
+    connect(m_timer, &QTimer::timeout, this, &PlotPage::tick);
+    showMarkerValues();
+}
+
+PlotPage::~PlotPage() = default;
+
+void PlotPage::start()
+{
+    // Pre-fill the window so the first screenshot shows a full window.
+    const double now = double(QDateTime::currentMSecsSinceEpoch());
+    for (int i = MaxSamples - 1; i > 0; --i) {
+        m_times.append(now - i * SampleIntervalMs);
+        m_phase += SampleIntervalMs / 1000.0;
+        m_values.append(150.0 + 45.0 * std::sin(m_phase / 4.0) + 8.0 * std::sin(m_phase * 1.7)
+                        + QRandomGenerator::global()->bounded(6.0) - 3.0);
+    }
+    m_timer->start(SampleIntervalMs);
+    tick();
+}
+
+void PlotPage::tick()
+{
+    const double now = double(QDateTime::currentMSecsSinceEpoch());
+    m_phase += SampleIntervalMs / 1000.0;
+    m_times.append(now);
+    m_values.append(150.0 + 45.0 * std::sin(m_phase / 4.0) + 8.0 * std::sin(m_phase * 1.7)
+                    + QRandomGenerator::global()->bounded(6.0) - 3.0);
+    while (m_times.size() > MaxSamples) {
+        m_times.removeFirst();
+        m_values.removeFirst();
+    }
+    m_curve->setSamples(m_times, m_values);
+    // Follow the newest sample; the time magnifier's reset returns to this window.
+    m_plot->vSetXAxis(now - WindowMs, now);
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, now - WindowMs, now);
+    m_plot->replot();
+}
+
+void PlotPage::showMarkerValues()
+{
+    m_status->setText(tr("Upper marker %1 mm, lower marker %2 mm, window %3 mm")
+                          .arg(m_upper->value(), 0, 'f', 1)
+                          .arg(m_lower->value(), 0, 'f', 1)
+                          .arg(m_upper->value() - m_lower->value(), 0, 'f', 1));
+}
+
+void PlotPage::writeArtifacts(const QDir &outputDir, QStringList *written)
+{
+    const QString path = outputDir.absoluteFilePath(QStringLiteral("plot-with-markers.png"));
+    if (m_plotWithButtons->grab().save(path))
+        *written << path;
+}
+
+DEMO_REGISTER_PAGE(PlotPage, 30)
