@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <iterator>
+#include <limits>
 
 namespace Utils {
 
@@ -26,6 +27,17 @@ const char *const greyFrameStyle = "Utils--DataFrameSenderUi {"
                                    " background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1,"
                                    " stop: 0 #E1E1E1, stop: 0.4 #DDDDDD, stop: 0.5 #D8D8D8, stop: 1.0 #D3D3D3);"
                                    " }";
+
+// Whole milliseconds, truncated; out-of-range and NaN time-outs are clamped
+// instead of overflowing the conversion.
+int nTimeOutMs(double dTimeOutMs)
+{
+    if (!(dTimeOutMs > 0.0))
+        return 0;
+    if (dTimeOutMs >= double(std::numeric_limits<int>::max()))
+        return std::numeric_limits<int>::max();
+    return static_cast<int>(dTimeOutMs);
+}
 
 } // namespace
 
@@ -181,7 +193,7 @@ void DataFrameSender::vSendNextFrame()
         accept();
         return;
     }
-    d->oTimer.setInterval(static_cast<int>(d->oCurrent->dTimeOutMs));
+    d->oTimer.setInterval(nTimeOutMs(d->oCurrent->dTimeOutMs));
     d->vShowStep();
     const quint64 nFrame = ++d->nFramesSent;
     Q_EMIT vSendData(std::string(d->oCurrent->oFrame));
