@@ -4,7 +4,9 @@
 #include "plot/plotmarker.h"
 
 #include <qwt_plot.h>
+#include <qwt_scale_widget.h>
 
+#include <QEvent>
 #include <QLabel>
 #include <QPointer>
 
@@ -31,6 +33,18 @@ ThresholdWindowWidgetUniversal::ThresholdWindowWidgetUniversal(QwtPlot *plot, in
     d->sizeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     d->sizeLabel->setStyleSheet(QStringLiteral("QLabel { background: rgba(255, 255, 255, 200); padding: 1px 3px; }"));
     d->sizeLabel->hide();
+    // The label sits between the marks: place it again when the canvas or the
+    // value scale changes, not only when a mark moves.
+    plot->canvas()->installEventFilter(this);
+    if (QwtScaleWidget *scale = plot->axisWidget(QwtPlot::yLeft))
+        connect(scale, &QwtScaleWidget::scaleDivChanged, this, &ThresholdWindowWidgetUniversal::zonesUpdated);
+}
+
+bool ThresholdWindowWidgetUniversal::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize && poPlot() && watched == poPlot()->canvas())
+        zonesUpdated();
+    return ThresholdWindowWidget::eventFilter(watched, event);
 }
 
 ThresholdWindowWidgetUniversal::~ThresholdWindowWidgetUniversal()
@@ -159,7 +173,8 @@ void ThresholdWindowWidgetUniversal::zonesUpdated()
     // Called from the base constructor's members before this class's record exists.
     if (!d || !d->sizeLabel || !poPlot())
         return;
-    if (!d->sizeVisible || !isUpperMarkVisible() || !isLowerMarkVisible()) {
+    // Hidden marks, not a hidden page: the label must be ready when its page shows.
+    if (!d->sizeVisible || poUpperMark()->isHidden() || poLowerMark()->isHidden()) {
         d->sizeLabel->hide();
         return;
     }

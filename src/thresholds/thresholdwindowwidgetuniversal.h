@@ -65,6 +65,7 @@ public:
 
 protected:
     void zonesUpdated() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     struct Private;

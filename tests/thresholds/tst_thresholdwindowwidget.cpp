@@ -470,6 +470,13 @@ void tst_ThresholdWindowWidget::universalOperations()
     QCOMPARE(label->text(), QStringLiteral("22.50"));
     window.formatText(true);
     QCOMPARE(label->text(), QStringLiteral("22.5"));
+    // Between the marks, also after the canvas grew.
+    plot->resize(700, 600);
+    QCoreApplication::processEvents();
+    const double middleRow = plot->transform(QwtPlot::yLeft, (30 + 52.5) / 2);
+    QVERIFY2(std::abs(label->geometry().center().y() - middleRow) <= 2,
+             qPrintable(QStringLiteral("%1 vs %2").arg(label->geometry().center().y()).arg(middleRow)));
+    QCOMPARE(label->geometry().right(), plot->canvas()->width() - 5);
     window.showUpperMark(false);
     QVERIFY(!window.isUpperMarkVisible());
     QVERIFY(window.isLowerMarkVisible());
