@@ -5,6 +5,8 @@
 
 #include <qwt_plot.h>
 
+#include <QPointer>
+
 #include <map>
 #include <set>
 
@@ -16,6 +18,15 @@ struct ChartThresholdManager::Private
     std::map<ChartItem *, std::string> namesByItem;
     QwtPlot *plot = nullptr;
     bool allowOverlapping = true;
+    // The markers are also children of the plot's canvas: a plot destroyed
+    // before the manager takes them along, and they must not be deleted twice.
+    std::map<ChartItem *, QPointer<PlotMarker>> alive;
+
+    bool isAlive(ChartItem *item) const
+    {
+        const auto it = alive.find(item);
+        return it != alive.end() && !it->second.isNull();
+    }
 };
 
 ChartThresholdManager::ChartThresholdManager(QwtPlot *plot)
@@ -36,6 +47,8 @@ ChartThresholdManager::~ChartThresholdManager()
     d->itemsByName.clear();
     d->namesByItem.clear();
     for (ChartItem *item : items) {
+        if (!d->isAlive(item))
+            continue;
         item->detach(this);
         delete item;
     }
@@ -48,6 +61,7 @@ ChartItem *ChartThresholdManager::addItem(const std::string &name)
     auto *marker = new PlotMarker(d->plot, PlotMarker::Mode(1));
     d->itemsByName[name] = marker;
     d->namesByItem[marker] = name;
+    d->alive[marker] = marker;
     marker->attach(this);
     return marker;
 }
@@ -55,7 +69,9 @@ ChartItem *ChartThresholdManager::addItem(const std::string &name)
 ChartItem *ChartThresholdManager::item(const std::string &name) const
 {
     const auto it = d->itemsByName.find(name);
-    return it == d->itemsByName.end() ? nullptr : it->second;
+    if (it == d->itemsByName.end() || !d->isAlive(it->second))
+        return nullptr;
+    return it->second;
 }
 
 void ChartThresholdManager::removeItem(const std::string &name)
@@ -66,10 +82,14 @@ void ChartThresholdManager::removeItem(const std::string &name)
     if (it == d->itemsByName.end())
         return;
     ChartItem *victim = it->second;
-    victim->detach(this);
+    const bool alive = d->isAlive(victim);
     d->itemsByName.erase(it);
     d->namesByItem.erase(victim);
-    delete victim;
+    d->alive.erase(victim);
+    if (alive) {
+        victim->detach(this);
+        delete victim;
+    }
 }
 
 void ChartThresholdManager::setItemValue(const std::string &name, const double &value)

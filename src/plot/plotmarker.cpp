@@ -16,9 +16,23 @@
 
 #include <algorithm>
 #include <climits>
+#include <cmath>
 #include <vector>
 
 namespace Utils {
+
+namespace {
+
+// Pixel row or column of a transformed value. Values far off the canvas (or NaN)
+// would overflow an int; they are held where they are still off screen.
+int toPixel(double pixel)
+{
+    if (std::isnan(pixel))
+        return 0;
+    return int(std::max(-1.0e7, std::min(pixel, 1.0e7)));
+}
+
+} // namespace
 
 struct PlotMarker::Private
 {
@@ -106,11 +120,9 @@ void PlotMarker::init(QwtPlot *plot, Mode mode, int valueAxis)
     QWidget::setVisible(false);
 }
 
-PlotMarker::~PlotMarker()
-{
-    if (d->plot && d->plot->canvas())
-        d->plot->canvas()->removeEventFilter(this);
-}
+// The marker usually dies with the canvas, after the plot's own data is gone:
+// it must not touch the plot here. Qt drops a destroyed event filter by itself.
+PlotMarker::~PlotMarker() = default;
 
 void PlotMarker::setValue(const double &value)
 {
@@ -137,7 +149,9 @@ std::string PlotMarker::valueText() const
 
 int PlotMarker::nValue() const
 {
-    return int(d->value);
+    if (std::isnan(d->value))
+        return 0;
+    return int(std::max(double(INT_MIN), std::min(d->value, double(INT_MAX))));
 }
 
 void PlotMarker::setUpperValue(double value, const QString &text)
@@ -230,7 +244,7 @@ void PlotMarker::recomputePixelThickness()
     const double p0 = d->plot->transform(d->axis, 0.0);
     const double pt = d->plot->transform(d->axis, t);
     // Pixels grow downwards on a value axis and rightwards on the time axis.
-    d->pixelThickness = int(d->vertical() ? pt - p0 : p0 - pt);
+    d->pixelThickness = toPixel(d->vertical() ? pt - p0 : p0 - pt);
 }
 
 void PlotMarker::vSetTicknessHeight()
@@ -358,7 +372,7 @@ void PlotMarker::place(int width, int height)
     if (!d->plot)
         return;
     const int extent = d->pixelThickness + 4;
-    const int pixel = int(d->plot->transform(d->axis, d->value));
+    const int pixel = toPixel(d->plot->transform(d->axis, d->value));
     if (!d->vertical()) {
         // The band sits above the line for orientation 0, below it otherwise.
         const int top = d->orientation == OrientationBandAbove ? pixel - d->pixelThickness - 4 : pixel;
@@ -373,8 +387,8 @@ int PlotMarker::dragHorizontal(int top)
 {
     const QwtScaleDiv &div = d->plot->axisScaleDiv(QwtPlot::yLeft);
     const bool inverted = div.lowerBound() > div.upperBound();
-    int pUp = int(d->plot->transform(QwtPlot::yLeft, inverted ? d->lowerBound : d->upperBound));
-    int pLow = int(d->plot->transform(QwtPlot::yLeft, inverted ? d->upperBound : d->lowerBound));
+    const int pUp = toPixel(d->plot->transform(QwtPlot::yLeft, inverted ? d->lowerBound : d->upperBound));
+    const int pLow = toPixel(d->plot->transform(QwtPlot::yLeft, inverted ? d->upperBound : d->lowerBound));
     const int h = height();
     top = std::max(top, pUp + 1);
     if (m_nRestrictionCustom <= -1) {
@@ -394,8 +408,8 @@ int PlotMarker::dragVertical(int left)
     int minX = INT_MIN;
     int maxX = INT_MAX;
     for (const auto &bounds : d->neighbourBounds) {
-        const int a = int(d->plot->transform(QwtPlot::xBottom, bounds.first));
-        const int b = int(d->plot->transform(QwtPlot::xBottom, bounds.second));
+        const int a = toPixel(d->plot->transform(QwtPlot::xBottom, bounds.first));
+        const int b = toPixel(d->plot->transform(QwtPlot::xBottom, bounds.second));
         minX = std::max(minX, std::min(a, b) + d->neighbourSpacing);
         maxX = std::min(maxX, std::max(a, b) - d->neighbourSpacing);
     }

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void setItemRange();
     void replacedNameKeepsBothItems();
     void chartThresholdWidget();
+    void managerOutlivesPlot();
 
 private:
     //! Records both itemChanged forms in emission order.
@@ -219,6 +220,22 @@ void tst_ChartThresholdManager::chartThresholdWidget()
     line.setValueText("2.5");
     QCOMPARE(line.value(), 2.5);
     QCOMPARE(line.name(), std::string());
+}
+
+void tst_ChartThresholdManager::managerOutlivesPlot()
+{
+    ChartThresholdManager manager(m_plot);
+    QPointer<PlotMarker> marker(static_cast<PlotMarker *>(manager.addItem("a")));
+    manager.addItem("b");
+    // The markers live on the canvas: they go with the plot, and the manager
+    // must neither hand them out nor delete them again.
+    m_host.reset();
+    QVERIFY(marker.isNull());
+    QCOMPARE(manager.item("a"), nullptr);
+    manager.setItemValue("a", 10.0);
+    manager.setItemRange("b", 1.0, 2.0);
+    manager.removeItem("b");
+    QCOMPARE(manager.item("b"), nullptr);
 }
 
 QTEST_MAIN(tst_ChartThresholdManager)

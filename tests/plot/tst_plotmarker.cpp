@@ -63,6 +63,9 @@ private Q_SLOTS:
     void noTimeMarker();
     void universalMarker_data();
     void universalMarker();
+    void badValues_data();
+    void badValues();
+    void markerOwnedByCanvas();
 
 private:
     std::unique_ptr<QWidget> m_host;
@@ -437,6 +440,46 @@ void tst_PlotMarker::universalMarker()
     marker.setNoiseOrientation(PlotMarker::OrientationBandCentered);
     marker.setThickness(100);
     QCOMPARE(marker.x() + marker.width() / 2, int(m_plot->transform(QwtPlot::xBottom, marker.value())));
+}
+
+void tst_PlotMarker::badValues_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::newRow("NaN") << std::nan("");
+    QTest::newRow("infinity") << HUGE_VAL;
+    QTest::newRow("huge") << 1e300;
+    QTest::newRow("huge negative") << -1e300;
+}
+
+void tst_PlotMarker::badValues()
+{
+    QFETCH(double, value);
+    PlotMarker marker(m_plot);
+    marker.setMoveable(true);
+    marker.setThickness(4000000000u);
+    marker.setValue(value);
+    marker.setRange(value, -value);
+    (void)marker.nValue();
+    QVERIFY(marker.height() >= 4);
+    dragMarker(&marker, QPoint(5, 2), {QPoint(20, 40)});
+    Utils::PlotMarkerNoTime vertical(m_plot);
+    vertical.setRange(0, value, value);
+    vertical.setMoveable(true);
+    vertical.setValue(value);
+    dragMarker(&vertical, QPoint(1, 5), {QPoint(40, 20)});
+    PlotMarker orphan(nullptr);
+    orphan.setValue(value);
+    orphan.setThickness(3);
+    QCOMPARE(orphan.plot(), nullptr);
+}
+
+void tst_PlotMarker::markerOwnedByCanvas()
+{
+    // Markers normally die with the canvas, after the plot's own data.
+    QPointer<PlotMarker> marker(new PlotMarker(m_plot));
+    marker->setValue(100.0);
+    m_host.reset();
+    QVERIFY(marker.isNull());
 }
 
 QTEST_MAIN(tst_PlotMarker)
