@@ -23,4 +23,27 @@
         <translation>Schritt %1/%2</translation>
     </message>
 </context>
+<context>
+    <name>Utils::Plot</name>
+    <message>
+        <source>Reset Zoom</source>
+        <translation>Zoom zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Date + Time</source>
+        <translation>Datum + Zeit</translation>
+    </message>
+</context>
 </TS>
