@@ -16,6 +16,9 @@ namespace Utils {
 struct CustomWidget::Private
 {
     QPointer<QwtPlot> plot;
+    // Kept apart from the plot: the canvas still sends events while the plot
+    // is being destroyed, when the plot can no longer be asked for it.
+    QPointer<QWidget> canvas;
     double lower = 0.0;
     double upper = 0.0;
     QBrush brush = QBrush(QColor(110, 110, 110, 70));
@@ -26,6 +29,7 @@ CustomWidget::CustomWidget(QwtPlot *plot)
     , d(std::make_unique<Private>())
 {
     d->plot = plot;
+    d->canvas = plot ? plot->canvas() : nullptr;
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::NoFocus);
@@ -71,9 +75,9 @@ QBrush CustomWidget::brush() const
 
 void CustomWidget::vItemChanged()
 {
-    if (!d->plot)
+    if (!d->plot || !d->canvas)
         return;
-    const QWidget *canvas = d->plot->canvas();
+    const QWidget *canvas = d->canvas;
     // Pixel rows of the two ends, held near the canvas so that a range far off
     // the scale (such as a parked one) cannot overflow the geometry.
     const auto row = [this, canvas](double value) {
@@ -92,7 +96,7 @@ void CustomWidget::vItemChanged()
 
 bool CustomWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (d->plot && watched == d->plot->canvas() && event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize && watched == d->canvas)
         vItemChanged();
     return QWidget::eventFilter(watched, event);
 }

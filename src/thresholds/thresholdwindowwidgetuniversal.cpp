@@ -17,6 +17,9 @@ namespace Utils {
 struct ThresholdWindowWidgetUniversal::Private
 {
     QPointer<QLabel> sizeLabel;
+    // Compared in the event filter without asking the plot, which may be
+    // half destroyed while its canvas still sends events.
+    QPointer<QWidget> canvas;
     bool sizeVisible = false;
     bool oneDecimal = false;
     bool customThresholds = false;
@@ -28,6 +31,7 @@ ThresholdWindowWidgetUniversal::ThresholdWindowWidgetUniversal(QwtPlot *plot, in
 {
     if (!plot)
         return;
+    d->canvas = plot->canvas();
     d->sizeLabel = new QLabel(plot->canvas());
     d->sizeLabel->setObjectName(QStringLiteral("windowSizeLabel"));
     d->sizeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -42,7 +46,7 @@ ThresholdWindowWidgetUniversal::ThresholdWindowWidgetUniversal(QwtPlot *plot, in
 
 bool ThresholdWindowWidgetUniversal::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize && poPlot() && watched == poPlot()->canvas())
+    if (event->type() == QEvent::Resize && watched == d->canvas)
         zonesUpdated();
     return ThresholdWindowWidget::eventFilter(watched, event);
 }
