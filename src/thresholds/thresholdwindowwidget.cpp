@@ -84,6 +84,9 @@ struct ThresholdWindowWidget::Private
     QPointer<CustomWidget> lowerZone;
     bool bothZonesVisible = false;
     bool keepNoiseWidth = false;
+    // Band heights last given by setNoise(), in yLeft units.
+    unsigned int upperReference = 0;
+    unsigned int lowerReference = 0;
     double rangeLower = 0.0;
     double rangeUpper = 0.0;
 
@@ -181,8 +184,10 @@ void ThresholdWindowWidget::setNoise(const int &lowerNoise, const int &upperNois
         return;
     const int upper = upperNoise < 0 ? lowerNoise : upperNoise;
     // A band cannot be thinner than nothing.
-    d->upperMark->setThickness(unsigned(std::max(upper, 0)));
-    d->lowerMark->setThickness(unsigned(std::max(lowerNoise, 0)));
+    d->upperReference = unsigned(std::max(upper, 0));
+    d->lowerReference = unsigned(std::max(lowerNoise, 0));
+    d->upperMark->setThickness(d->upperReference);
+    d->lowerMark->setThickness(d->lowerReference);
     d->upperMark->vSetTicknessHeight();
     d->lowerMark->vSetTicknessHeight();
 }
@@ -363,8 +368,8 @@ void ThresholdWindowWidget::PlotScrollMagnified(double factor)
     d->lowerMark->vItemChanged();
     // Factor 0 is the reset step of a zoom reset.
     if (factor == 0.0 && d->keepNoiseWidth) {
-        d->upperMark->vAfterZoomReset();
-        d->lowerMark->vAfterZoomReset();
+        d->upperMark->setThickness(d->upperReference);
+        d->lowerMark->setThickness(d->lowerReference);
     }
     updateZoneGeometry();
 }

@@ -93,7 +93,10 @@ public:
     void setBothWindowZoneVisible(bool visible);
     bool bothWindowZoneVisible() const;
     int getComponentIndex() const;
-    //! When set, a wheel reset (factor 0) gives the marks their reference band height back.
+    /*!
+        When set, the reset step of a zoom reset (PlotScrollMagnified(0)) gives
+        both marks the band heights of the last setNoise() back.
+    */
     void setKeepNoiseWidth(bool keep);
     bool keepNoiseWidth() const;
 

@@ -266,6 +266,16 @@ void tst_ThresholdWindowWidget::setNoise()
     // The band is drawn as the marker's height: thickness in pixels plus the line.
     const int expected = int(plot->transform(QwtPlot::yLeft, 0.0) - plot->transform(QwtPlot::yLeft, upperThickness)) + 4;
     QCOMPARE(window.poUpperMark()->height(), expected);
+
+    // A zoom reset gives the bands of setNoise() back only with keepNoiseWidth.
+    window.poUpperMark()->setThickness(upperThickness + 9);
+    Q_EMIT plot->PlotScrollMagnified(0.0);
+    QCOMPARE(window.poUpperMark()->thickness(), upperThickness + 9);
+    window.setKeepNoiseWidth(true);
+    Q_EMIT plot->PlotScrollMagnified(0.8);
+    QCOMPARE(window.poUpperMark()->thickness(), upperThickness + 9);
+    Q_EMIT plot->PlotScrollMagnified(0.0);
+    QCOMPARE(window.poUpperMark()->thickness(), upperThickness);
 }
 
 void tst_ThresholdWindowWidget::noiseOrientation_data()
