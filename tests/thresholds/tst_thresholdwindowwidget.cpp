@@ -426,6 +426,11 @@ void tst_ThresholdWindowWidget::followsWheelZoomAndScale()
     const int markRow = window.poUpperMark()->geometry().top() + window.poUpperMark()->height();
     QVERIFY(std::abs(markRow - plot->transform(QwtPlot::yLeft, 70.0)) <= 1);
 
+    // A double click resets the zoom; the zones follow the reset.
+    QTest::mouseDClick(canvas, Qt::LeftButton, Qt::NoModifier, centre);
+    QCOMPARE(plot->axisScaleDiv(QwtPlot::yLeft).upperBound(), 100.0);
+    QCOMPARE(window.poUpperZone()->upperValue(), 100.0);
+
     // A host rescale moves the marks and zones along as well.
     plot->setAxisScale(QwtPlot::yLeft, 0.0, 400.0);
     plot->replot();
