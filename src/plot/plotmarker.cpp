@@ -43,6 +43,9 @@ struct PlotMarker::Private
     bool hovered = false;
     QPen pen = QPen(QBrush(QColor(200, 0, 0, 50)), 2, Qt::DashDotDotLine);
     QwtPlot *plot = nullptr;
+    // Compared in the event filter without calling into a plot that may be
+    // half destroyed while the canvas still delivers events.
+    QWidget *canvas = nullptr;
     bool dragging = false;
     int pressX = 0;
     int pressY = 0;
@@ -91,6 +94,7 @@ void PlotMarker::init(QwtPlot *plot, Mode mode, int valueAxis)
     d->mode = mode;
     d->axis = valueAxis == QwtPlot::xBottom ? QwtPlot::xBottom : QwtPlot::yLeft;
     if (plot) {
+        d->canvas = plot->canvas();
         setParent(plot->canvas());
         const QwtScaleDiv &y = plot->axisScaleDiv(QwtPlot::yLeft);
         d->lowerBound = y.lowerBound();
@@ -428,7 +432,7 @@ void PlotMarker::dragStep(double newValue)
 
 bool PlotMarker::eventFilter(QObject *watched, QEvent *event)
 {
-    if (d->plot && watched == d->plot->canvas()) {
+    if (d->canvas && watched == d->canvas) {
         if (event->type() == QEvent::Resize) {
             resize(static_cast<QResizeEvent *>(event)->size());
             setThickness(d->thickness);
