@@ -21,6 +21,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QTranslator>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -131,6 +132,7 @@ private Q_SLOTS:
     void displayValueLabels();
     void trackerText();
     void languageChange();
+    void germanTranslation();
     void resizeEmitsAxisChanged();
 
 private:
@@ -926,6 +928,29 @@ void tst_Plot::languageChange()
     QCOMPARE(m_plot->poZoomInButton()->toolTip(), QStringLiteral("Zoom In"));
     QCOMPARE(m_plot->poZoomOutButton()->toolTip(), QStringLiteral("Zoom Out"));
     QCOMPARE(m_plot->poResetZoomButton()->toolTip(), QStringLiteral("z")); // deliberately not retranslated
+}
+
+void tst_Plot::germanTranslation()
+{
+    QWidget *bar = m_plot->embedZoomToolBar();
+    m_host->layout()->addWidget(bar); // where the plot was
+    bar->show();
+    QVERIFY(m_plot->isVisible());
+    QTranslator german;
+    if (!german.load(QStringLiteral(":/translations/utils_de.qm")))
+        QSKIP("the library carries no German catalogue");
+    QCoreApplication::installTranslator(&german);
+    QTRY_COMPARE(m_plot->poZoomInButton()->toolTip(), QStringLiteral("Vergr\u00F6\u00DFern"));
+    QCOMPARE(m_plot->poZoomOutButton()->toolTip(), QStringLiteral("Verkleinern"));
+    QCOMPARE(m_plot->poResetZoomButton()->toolTip(), QStringLiteral("Reset Zoom")); // kept from construction
+
+    MenuDriver menu;
+    menu.clickWhenShown(QStringLiteral("Datum + Zeit"));
+    QTest::mousePress(m_plot->axisWidget(QwtPlot::xBottom), Qt::RightButton, Qt::NoModifier,
+                      m_plot->axisWidget(QwtPlot::xBottom)->rect().center());
+    QCoreApplication::removeTranslator(&german);
+    QCOMPARE(menu.offered, (QStringList{QStringLiteral("Zeit"), QStringLiteral("Datum + Zeit")}));
+    QCOMPARE(readAxisType(), 1);
 }
 
 void tst_Plot::resizeEmitsAxisChanged()
