@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+// The smallest host: one header of every subsystem from the installed tree.
+#include <utils/assistant/element.h>
 #include <utils/core/log.h>
 #include <utils/core/observer.h>
+#include <utils/plot/plot.h>
+#include <utils/telegrams/tamarindprotocolheader.h>
+#include <utils/thresholds/thresholdsdata.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include <cstdio>
 
@@ -17,14 +22,24 @@ public:
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
-    Utils::Observable subject;
+    QApplication app(argc, argv);
+    Utils::ThresholdsData thresholds;
     Counter counter;
-    subject.attach(&counter);
-    subject.notify();
+    thresholds.attach(&counter);
+    thresholds.notify();
+
     auto *log = Utils::LoggingSystem::Log::requestInstance();
     log->vLog(Utils::LoggingSystem::Log::eInfo, "Consumer", "linked %d", counter.calls);
     Utils::LoggingSystem::Log::releaseInstance(false);
-    std::printf("consumer ok %d\n", counter.calls);
-    return counter.calls == 1 ? 0 : 1;
+
+    Utils::Plot plot;
+    plot.resize(400, 300);
+    const bool painted = !plot.grab().isNull();
+
+    Utils::TamarindProtocolHeader header(std::string("0201050014000300FF000000"));
+    Assistant::Element::registerQmlElement();
+
+    std::printf("consumer ok %d %d %s\n", counter.calls, painted ? 1 : 0,
+                thresholds.toHexString(Utils::ThresholdsData::Red).c_str());
+    return counter.calls == 1 && painted && header.u16ProtocolLenght() == 20 ? 0 : 1;
 }
