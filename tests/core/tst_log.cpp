@@ -108,7 +108,7 @@ void tst_Log::vLogDoesNotEmit()
     QSignalSpy spy(log, &Log::emitLastLogged);
     QVERIFY(spy.isValid());
     log->vLog(Log::eInfo, "Sensor", "connected %d", 1);
-    QCOMPARE(spy.count(), 0); // composed and dropped, by design
+    QCOMPARE(spy.count(), 0); // composed and dropped on purpose
     Q_EMIT log->emitLastLogged(QStringLiteral("host line"));
     QCOMPARE(spy.count(), 1);
     Log::releaseInstance(false);
