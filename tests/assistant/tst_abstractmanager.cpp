@@ -8,12 +8,10 @@
 #include <assistant/switchcomponent.h>
 #include <assistant/titlecomponent.h>
 
-#include <QCoreApplication>
 #include <QMetaMethod>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTranslator>
 
 using namespace Assistant;
 
@@ -22,8 +20,8 @@ namespace {
 class TestAssistant : public AbstractManager
 {
 public:
-    explicit TestAssistant(QObject *parent = nullptr)
-        : AbstractManager(false, parent)
+    TestAssistant()
+        : AbstractManager(false, nullptr)
     { }
     void buildContent() override { }
     using AbstractManager::appendContent;
@@ -56,149 +54,83 @@ class tst_AbstractManager : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pageDefaults();
-    void pageSetElements();
-    void pageAppendElements();
-    void pageInsertElementsAt_data();
-    void pageInsertElementsAt();
-    void pageRemoveAndClear();
-    void elementEnabledVisible();
+    void pageListOperations_data();
+    void pageListOperations();
     void managerInterface();
     void pageKinds_data();
     void pageKinds();
-    void sameIndexIsIgnored();
-    void badIndexesAreIgnored();
+    void ignoredPageChanges();
     void resetViewRestoresCurrentPage();
     void translateOrder();
     void lastPageContent();
-    void germanLanguageSwitch();
     void clearContent();
 };
 
-void tst_AbstractManager::pageDefaults()
+void tst_AbstractManager::pageListOperations_data()
 {
-    Page page(nullptr);
-    QCOMPARE(page.minimumSize(), QSize(370, 2160));
-    QCOMPARE(page.property("minimumSize").toSize(), QSize(370, 2160));
-    QVERIFY(page.elements().isEmpty());
-    page.setMinimumSize(QSize(400, 800));
-    QCOMPARE(page.minimumSize(), QSize(400, 800));
-}
-
-void tst_AbstractManager::pageSetElements()
-{
-    QObject owner;
-    Page page(nullptr);
-    auto *a = new SpacerElement(1, &owner);
-    auto *b = new SpacerElement(2, &owner);
-    QSignalSpy spy(&page, &Page::elementsChanged);
-    page.setElements({ a, b });
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0).at(0).value<QObjectList>(), (QObjectList { a, b }));
-    page.setElements({ a, b });
-    QCOMPARE(spy.count(), 1);
-    page.setElements({ b, a });
-    QCOMPARE(spy.count(), 2);
-    // The page lists its elements; it does not adopt them.
-    QCOMPARE(a->parent(), &owner);
-}
-
-void tst_AbstractManager::pageAppendElements()
-{
-    QObject owner;
-    Page page(nullptr);
-    auto *a = new SpacerElement(1, &owner);
-    auto *b = new SpacerElement(2, &owner);
-    page.setElements({ a });
-    QSignalSpy spy(&page, &Page::elementsChanged);
-
-    QCOMPARE(page.appendElements({}), QObjectList { a });
-    QCOMPARE(spy.count(), 0);
-
-    // Already there: announced anyway, list unchanged.
-    QCOMPARE(page.appendElements({ a }), QObjectList { a });
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0).at(0).value<QObjectList>(), QObjectList { a });
-
-    QCOMPARE(page.appendElements({ b, a, b }), (QObjectList { a, b }));
-    QCOMPARE(spy.count(), 2);
-    QCOMPARE(page.elements(), (QObjectList { a, b }));
-}
-
-void tst_AbstractManager::pageInsertElementsAt_data()
-{
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QString>("argument");
     QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("accepted");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("front") << 0 << true << "xyab";
-    QTest::newRow("middle") << 1 << true << "axyb";
-    QTest::newRow("at the count") << 2 << true << "abxy";
-    QTest::newRow("past the count") << 3 << false << "ab";
-    QTest::newRow("negative") << -1 << false << "ab";
+    QTest::addColumn<bool>("emits");
+    QTest::newRow("set same list") << "set" << "ab" << 0 << "ab" << false;
+    QTest::newRow("set reordered") << "set" << "ba" << 0 << "ba" << true;
+    QTest::newRow("append nothing") << "append" << "" << 0 << "ab" << false;
+    // Already there: announced anyway, list unchanged.
+    QTest::newRow("append present") << "append" << "a" << 0 << "ab" << true;
+    QTest::newRow("append skips duplicates") << "append" << "xax" << 0 << "abx" << true;
+    QTest::newRow("insert at front") << "insert" << "xy" << 0 << "xyab" << true;
+    QTest::newRow("insert in the middle") << "insert" << "xy" << 1 << "axyb" << true;
+    QTest::newRow("insert at the count") << "insert" << "xy" << 2 << "abxy" << true;
+    QTest::newRow("insert past the count") << "insert" << "xy" << 3 << "ab" << false;
+    QTest::newRow("insert at negative index") << "insert" << "xy" << -1 << "ab" << false;
+    QTest::newRow("remove ignores strangers") << "remove" << "ax" << 0 << "b" << true;
 }
 
-void tst_AbstractManager::pageInsertElementsAt()
+// A page starting with elements "ab" (spacers named by letter); every list
+// operation returns the whole list and announces it when it changed.
+void tst_AbstractManager::pageListOperations()
 {
+    QFETCH(QString, operation);
+    QFETCH(QString, argument);
     QFETCH(int, index);
-    QFETCH(bool, accepted);
     QFETCH(QString, expected);
+    QFETCH(bool, emits);
     QObject owner;
+    QHash<QChar, QObject *> byName;
+    for (QChar c : QStringLiteral("abxy"))
+        byName.insert(c, new SpacerElement(0, &owner));
+    const auto elements = [&byName](const QString &names) {
+        QObjectList list;
+        for (QChar c : names)
+            list << byName.value(c);
+        return list;
+    };
     Page page(nullptr);
-    QHash<QObject *, QChar> names;
-    QObjectList made;
-    for (QChar c : QStringLiteral("abxy")) {
-        auto *e = new SpacerElement(0, &owner);
-        names.insert(e, c);
-        made << e;
-    }
-    page.setElements({ made[0], made[1] });
+    page.setElements(elements(QStringLiteral("ab")));
     QSignalSpy spy(&page, &Page::elementsChanged);
-    const QObjectList result = page.insertElementsAt({ made[2], made[3] }, index);
-    QString order;
-    for (QObject *o : result)
-        order += names.value(o);
-    QCOMPARE(order, expected);
-    QCOMPARE(result, page.elements());
-    QCOMPARE(spy.count(), accepted ? 1 : 0);
-}
 
-void tst_AbstractManager::pageRemoveAndClear()
-{
-    QObject owner;
-    Page page(nullptr);
-    auto *a = new SpacerElement(1, &owner);
-    auto *b = new SpacerElement(2, &owner);
-    auto *stranger = new SpacerElement(3, &owner);
-    page.setElements({ a, b });
-    QSignalSpy spy(&page, &Page::elementsChanged);
-    QCOMPARE(page.removeElements({ a, stranger }), QObjectList { b });
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0).at(0).value<QObjectList>(), QObjectList { b });
+    QObjectList result;
+    if (operation == QLatin1String("set")) {
+        page.setElements(elements(argument));
+        result = page.elements();
+    } else if (operation == QLatin1String("append"))
+        result = page.appendElements(elements(argument));
+    else if (operation == QLatin1String("insert"))
+        result = page.insertElementsAt(elements(argument), index);
+    else
+        result = page.removeElements(elements(argument));
+    QCOMPARE(page.elements(), elements(expected));
+    QCOMPARE(result, elements(expected));
+    QCOMPARE(spy.count(), emits ? 1 : 0);
+    if (emits)
+        QCOMPARE(spy.at(0).at(0).value<QObjectList>(), elements(expected));
+
     page.clearElements();
     QVERIFY(page.elements().isEmpty());
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(b->parent(), &owner);
-}
-
-void tst_AbstractManager::elementEnabledVisible()
-{
-    SpacerElement element(10, nullptr);
-    QSignalSpy enabled(&element, &Element::enabledChanged);
-    QSignalSpy visible(&element, &Element::visibleChanged);
-    QSignalSpy language(&element, &Element::languageChanged);
-    element.setEnabled(true);
-    element.setVisible(true);
-    QCOMPARE(enabled.count() + visible.count(), 0);
-    element.setEnabled(false);
-    element.setVisible(false);
-    element.setVisible(false);
-    QCOMPARE(enabled.count(), 1);
-    QCOMPARE(enabled.at(0).at(0).toBool(), false);
-    QCOMPARE(visible.count(), 1);
-    QCOMPARE(element.getForceTranslate(), QString());
-    // An element without texts keeps the base translate: it only tells bindings.
-    element.translate();
-    QCOMPARE(language.count(), 1);
+    QCOMPARE(spy.count(), emits ? 1 : 0);
+    // The page lists its elements; it does not adopt them.
+    QCOMPARE(byName.value(QLatin1Char('a'))->parent(), &owner);
 }
 
 void tst_AbstractManager::managerInterface()
@@ -215,15 +147,12 @@ void tst_AbstractManager::managerInterface()
         (QStringList { "elementClicked()", "languageChanged()", "enabledChanged(bool)", "visibleChanged(bool)" }));
 
     TestAssistant manager;
+    // Deliberately not empty: concrete assistants override the text they show.
     QCOMPARE(manager.toolTip(), QString(QChar(0x0001)));
-    QVERIFY(!manager.isDefault());
-    QVERIFY(AbstractManager::staticMetaObject.property(mo->indexOfProperty("isDefault")).isConstant());
+    QVERIFY(mo->property(mo->indexOfProperty("isDefault")).isConstant());
     QVERIFY(!manager.isDefaultText());
     manager.setDefaltText(true);
     QVERIFY(manager.property("isDefaultText").toBool());
-    QCOMPARE(int(manager.currentPageIndex()), 0);
-    QCOMPARE(int(manager.nisDefaultText()), 0);
-    QVERIFY(!manager.passwordPage());
 }
 
 void tst_AbstractManager::pageKinds_data()
@@ -232,25 +161,14 @@ void tst_AbstractManager::pageKinds_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("code");
     QTest::addColumn<bool>("password");
-    QTest::newRow("password change") << "intro"
-                                     << "PASSWORD_CHANGE" << 1 << true;
-    QTest::newRow("save") << "PASSWORD_CHANGE"
-                          << "SAVE" << 2 << false;
-    QTest::newRow("teach") << "SAVE"
-                           << "TEACH_PAGE" << 3 << false;
-    QTest::newRow("other") << "TEACH_PAGE"
-                           << "intro" << 0 << false;
-    QTest::newRow("names are case-sensitive") << "TEACH_PAGE"
-                                              << "save" << 0 << false;
+    QTest::newRow("password change") << "intro" << "PASSWORD_CHANGE" << 1 << true;
+    QTest::newRow("save") << "PASSWORD_CHANGE" << "SAVE" << 2 << false;
+    QTest::newRow("teach") << "SAVE" << "TEACH_PAGE" << 3 << false;
+    QTest::newRow("other") << "TEACH_PAGE" << "intro" << 0 << false;
+    QTest::newRow("names are case-sensitive") << "TEACH_PAGE" << "save" << 0 << false;
     // The entry page keeps whatever code the page before it set.
-    QTest::newRow("entry after teach keeps 3") << "TEACH_PAGE"
-                                               << "PASSWORD_ENTRY" << 3 << true;
-    QTest::newRow("entry after save keeps 2") << "SAVE"
-                                              << "PASSWORD_ENTRY" << 2 << true;
-    QTest::newRow("entry after change keeps 1") << "PASSWORD_CHANGE"
-                                                << "PASSWORD_ENTRY" << 1 << true;
-    QTest::newRow("entry after other keeps 0") << "intro"
-                                               << "PASSWORD_ENTRY" << 0 << true;
+    QTest::newRow("entry after teach keeps 3") << "TEACH_PAGE" << "PASSWORD_ENTRY" << 3 << true;
+    QTest::newRow("entry after change keeps 1") << "PASSWORD_CHANGE" << "PASSWORD_ENTRY" << 1 << true;
 }
 
 void tst_AbstractManager::pageKinds()
@@ -262,14 +180,12 @@ void tst_AbstractManager::pageKinds()
     TestAssistant manager;
     manager.addPage(QStringLiteral("start"));
     manager.addPage(before);
-    Page *target = manager.addPage(name);
-    target->setMinimumSize(QSize(500, 900));
+    manager.addPage(name)->setMinimumSize(QSize(500, 900));
     QSignalSpy sizes(&manager, &AbstractManager::minimumSizeChanged);
 
     manager.setCurrentPageIndex(1);
     manager.setCurrentPageIndex(2);
     QCOMPARE(int(manager.currentPageIndex()), 2);
-    QCOMPARE(int(manager.nisDefaultText()), code);
     QCOMPARE(manager.property("nisDefaultText").toInt(), code);
     QCOMPARE(manager.passwordPage(), password);
     QCOMPARE(sizes.count(), 2);
@@ -277,21 +193,8 @@ void tst_AbstractManager::pageKinds()
     QCOMPARE(sizes.at(1).at(0).toSize(), QSize(500, 900));
 }
 
-void tst_AbstractManager::sameIndexIsIgnored()
-{
-    TestAssistant manager;
-    manager.addPage(QStringLiteral("TEACH_PAGE"));
-    QSignalSpy sizes(&manager, &AbstractManager::minimumSizeChanged);
-    manager.setCurrentPageIndex(0);
-    QCOMPARE(sizes.count(), 0);
-    QCOMPARE(int(manager.nisDefaultText()), 0);
-    // Classifying directly works for the page already current.
-    manager.updateMinimumSize(0);
-    QCOMPARE(sizes.count(), 1);
-    QCOMPARE(int(manager.nisDefaultText()), 3);
-}
-
-void tst_AbstractManager::badIndexesAreIgnored()
+// The present index, indexes outside the content and entries that are no page change nothing.
+void tst_AbstractManager::ignoredPageChanges()
 {
     TestAssistant manager;
     manager.addPage(QStringLiteral("TEACH_PAGE"));
@@ -300,11 +203,17 @@ void tst_AbstractManager::badIndexesAreIgnored()
     manager.appendContent(notAPage);
     manager.appendContent(nullptr);
     QSignalSpy sizes(&manager, &AbstractManager::minimumSizeChanged);
+    manager.setCurrentPageIndex(0);
+    QCOMPARE(sizes.count(), 0);
+    QCOMPARE(int(manager.nisDefaultText()), 0);
+
+    // Classifying directly works for the page already current.
     manager.updateMinimumSize(0);
     QCOMPARE(sizes.count(), 1);
-    manager.updateMinimumSize(1);
-    manager.updateMinimumSize(2);
-    manager.updateMinimumSize(255);
+    QCOMPARE(int(manager.nisDefaultText()), 3);
+
+    for (unsigned char index : { 1, 2, 255 })
+        manager.updateMinimumSize(index);
     manager.setCurrentPageIndex(200);
     QCOMPARE(sizes.count(), 1);
     QCOMPARE(int(manager.nisDefaultText()), 3);
@@ -317,10 +226,8 @@ void tst_AbstractManager::resetViewRestoresCurrentPage()
     TestAssistant manager;
     auto *spin = new SpinBoxComponent(&manager, 5, 0, 10, 1, QString(), QString());
     auto *toggle = new SwitchComponent(&manager, true, QString(), QString());
-    auto *combo
-        = new ComboBoxComponent(&manager, { QStringLiteral("a"), QStringLiteral("b") }, 1, QString(), QString());
-    auto *plain = new QObject(&manager);
-    manager.addPage(QStringLiteral("first"), { spin, plain, nullptr, toggle });
+    auto *combo = new ComboBoxComponent(&manager, { "a", "b" }, 1, QString(), QString());
+    manager.addPage(QStringLiteral("first"), { spin, new QObject(&manager), nullptr, toggle });
     manager.addPage(QStringLiteral("second"), { combo });
     spin->setSpinValue(9);
     toggle->setStatus(false);
@@ -333,14 +240,10 @@ void tst_AbstractManager::resetViewRestoresCurrentPage()
     manager.resetView();
     QCOMPARE(order, (QStringList { "spin", "switch" }));
     QCOMPARE(spin->spinValue(), 5);
-    QVERIFY(toggle->status());
-    QCOMPARE(combo->selectedIndex(), 0);
 
     manager.setCurrentPageIndex(1);
     manager.resetView();
-    manager.resetView();
     QCOMPARE(order, (QStringList { "spin", "switch", "combo" }));
-    QCOMPARE(combo->selectedIndex(), 1);
 
     // A null page is skipped.
     manager.setContent({ nullptr, nullptr });
@@ -358,6 +261,7 @@ void tst_AbstractManager::translateOrder()
     manager.addPage(QStringLiteral("two"), { c });
     QStringList order;
     connect(&manager, &AbstractManager::languageChanged, [&order] { order << QStringLiteral("manager"); });
+    // Spacers keep the base translate, which only tells bindings.
     for (SpacerElement *e : { a, b, c })
         connect(e, &Element::languageChanged, [&order, e] { order << QString::number(e->height()); });
     manager.translate();
@@ -401,44 +305,15 @@ void tst_AbstractManager::lastPageContent()
     QCOMPARE(int(manager.nisDefaultText()), 2);
 }
 
-// The German catalogue built into the library, switched on and off at run time.
-void tst_AbstractManager::germanLanguageSwitch()
-{
-    TestAssistant manager;
-    manager.buildLastPageContent(QString(), QString());
-    auto *page = qobject_cast<Page *>(manager.content().constFirst());
-    auto *title = qobject_cast<TitleComponent *>(page->elements().at(1));
-    auto *description = qobject_cast<DescriptionElement *>(page->elements().at(3));
-    QSignalSpy titles(title, &TitleComponent::titleChanged);
-    QSignalSpy descriptions(description, &DescriptionElement::descriptionChanged);
-
-    QTranslator german;
-    QVERIFY(german.load(QStringLiteral(":/translations/utils_de.qm")));
-    QVERIFY(QCoreApplication::installTranslator(&german));
-    manager.translate();
-    manager.translate();
-    QCOMPARE(titles.count(), 1);
-    QCOMPARE(titles.at(0).at(0).toString(), QStringLiteral("Speichern"));
-    QCOMPARE(title->title(), QStringLiteral("Speichern"));
-    QCOMPARE(descriptions.count(), 1);
-    QCOMPARE(description->description(), QStringLiteral("Möchten Sie die Einstellungen speichern ?"));
-
-    QCoreApplication::removeTranslator(&german);
-    manager.translate();
-    QCOMPARE(titles.count(), 2);
-    QCOMPARE(title->title(), QStringLiteral("Save"));
-}
-
 void tst_AbstractManager::clearContent()
 {
     TestAssistant manager;
     QPointer<Page> page = manager.addPage(QStringLiteral("one"));
     QSignalSpy content(&manager, &AbstractManager::contentChanged);
     manager.clearContent();
+    manager.clearContent();
     QVERIFY(manager.content().isEmpty());
     QVERIFY(page); // still owned by the manager
-    QCOMPARE(content.count(), 1);
-    manager.clearContent();
     QCOMPARE(content.count(), 1);
 }
 

@@ -1,5 +1,18 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "componentfactory.h"
+#include <assistant/boxcomponent.h>
+#include <assistant/buttoncomponent.h>
+#include <assistant/buttonscomponent.h>
+#include <assistant/checkboxcomponent.h>
+#include <assistant/comboboxcomponent.h>
+#include <assistant/descriptionelement.h>
+#include <assistant/doublespinboxcomponent.h>
+#include <assistant/labelcomponent.h>
+#include <assistant/signalcomponent.h>
+#include <assistant/spacerelement.h>
+#include <assistant/spinboxcomponent.h>
+#include <assistant/switchcomponent.h>
+#include <assistant/titlecomponent.h>
+#include <assistant/urlelement.h>
 
 #include <QCoreApplication>
 #include <QMetaMethod>
@@ -11,7 +24,6 @@
 #include <memory>
 
 using namespace Assistant;
-using TestSupport::createElement;
 
 namespace {
 
@@ -19,11 +31,8 @@ namespace {
 class PrefixTranslator : public QTranslator
 {
 public:
-    QString translate(
-        const char *context, const char *sourceText, const char *disambiguation = nullptr, int n = -1) const override
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
     {
-        Q_UNUSED(disambiguation)
-        Q_UNUSED(n)
         if (qstrcmp(context, "AssistantManager") != 0)
             return QString();
         return QStringLiteral("de:") + QString::fromUtf8(sourceText);
@@ -31,20 +40,50 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-QStringList ownSignals(const QMetaObject *mo)
+//! Every element built with fixed, recognisable constructor values, so a table row can name its class.
+Element *createElement(const QString &className, QObject *parent)
 {
-    QStringList result;
-    for (int i = mo->methodOffset(); i < mo->methodCount(); ++i) {
-        const QMetaMethod method = mo->method(i);
-        if (method.methodType() == QMetaMethod::Signal)
-            result << QString::fromLatin1(method.methodSignature());
-    }
-    return result;
+    if (className == QLatin1String("TitleComponent"))
+        return new TitleComponent(parent, "Exposure", "clock.svg", "hint");
+    if (className == QLatin1String("SpacerElement"))
+        return new SpacerElement(25, parent);
+    if (className == QLatin1String("DescriptionElement"))
+        return new DescriptionElement(parent, "Place the target");
+    if (className == QLatin1String("DescriptionComponent"))
+        return new DescriptionComponent(parent, "Look here", { "a.png", "b.png" });
+    if (className == QLatin1String("UrlElement"))
+        return new UrlElement(parent, "Manual", "https://example.invalid/manual", "link.svg");
+    if (className == QLatin1String("SpinBoxComponent"))
+        return new SpinBoxComponent(parent, 5, 0, 100, 1, "ms", "Exposure time");
+    if (className == QLatin1String("DoubleSpinBoxComponent"))
+        return new DoubleSpinBoxComponent(parent, 1.5, 0.0, 10.0, 0.5, "mm", "Offset");
+    if (className == QLatin1String("SwitchComponent"))
+        return new SwitchComponent(parent, false, "laser", "Laser on");
+    if (className == QLatin1String("LabelComponent"))
+        return new LabelComponent(parent, "Distance", "ruler", 12);
+    if (className == QLatin1String("ButtonComponent"))
+        return new ButtonComponent(parent, "Teach", "Press to teach", "teach", true);
+    if (className == QLatin1String("ButtonsComponent"))
+        return new ButtonsComponent(parent, 1, { "Low", "Mid", "High" }, "sensitivity", 3, 4);
+    if (className == QLatin1String("BoxComponent"))
+        return new BoxComponent(parent, "Start", "box", "Status");
+    if (className == QLatin1String("CheckBoxComponent"))
+        return new CheckBoxComponent(parent, 1, 0, 1, 1, "check", "Averaging");
+    if (className == QLatin1String("ComboBoxComponent"))
+        return new ComboBoxComponent(parent, { "Standard", "Fast", "Precise" }, 0, "Mode", "Choose the mode");
+    if (className == QLatin1String("SignalComponent"))
+        return new SignalComponent(parent, "ignored", "signal", "ignored too");
+    return nullptr;
 }
 
-QSignalSpy *notifySpy(QObject *object, const QMetaProperty &property)
+QMetaProperty metaProperty(const QObject *object, const QByteArray &name)
 {
-    return new QSignalSpy(
+    return object->metaObject()->property(object->metaObject()->indexOfProperty(name.constData()));
+}
+
+std::unique_ptr<QSignalSpy> notifySpy(QObject *object, const QMetaProperty &property)
+{
+    return std::make_unique<QSignalSpy>(
         object, QByteArray(QByteArray::number(QSIGNAL_CODE) + property.notifySignal().methodSignature()));
 }
 
@@ -70,7 +109,8 @@ private Q_SLOTS:
     void spinBoxRetranslatesSpinTextFirst();
     void spinBoxViewSlots();
     void signalComponentQuirks();
-    void constantsKeepConstructorValues();
+    void constants_data();
+    void constants();
 };
 
 void tst_Components::typeIds_data()
@@ -103,9 +143,7 @@ void tst_Components::typeIds()
     Element *element = createElement(className, &owner);
     QVERIFY(element);
     QCOMPARE(int(element->typeID()), type);
-    QCOMPARE(element->property("typeID").toInt(), type);
-    QVERIFY(element->enabled());
-    QVERIFY(element->visible());
+    QVERIFY(element->enabled() && element->visible());
 }
 
 void tst_Components::signalOrder_data()
@@ -143,129 +181,64 @@ void tst_Components::signalOrder()
     QFETCH(QString, className);
     QFETCH(QStringList, signalList);
     QObject owner;
-    Element *element = createElement(className, &owner);
-    QCOMPARE(ownSignals(element->metaObject()), signalList);
+    const QMetaObject *mo = createElement(className, &owner)->metaObject();
+    QStringList signalsFound;
+    for (int i = mo->methodOffset(); i < mo->methodCount(); ++i) {
+        if (mo->method(i).methodType() == QMetaMethod::Signal)
+            signalsFound << QString::fromLatin1(mo->method(i).methodSignature());
+    }
+    QCOMPARE(signalsFound, signalList);
 }
 
+// Setters that neither restore() nor translate() reach; those two tables cover the others.
 void tst_Components::propertyPattern_data()
 {
     QTest::addColumn<QString>("className");
-    QTest::addColumn<QByteArray>("propertyName");
-    QTest::addColumn<QByteArray>("notifySignal");
+    QTest::addColumn<QString>("propertyName");
+    QTest::addColumn<QString>("notifyName");
     QTest::addColumn<QVariant>("newValue");
-
-    QTest::newRow("title") << "TitleComponent" << QByteArray("title") << QByteArray("titleChanged(QString)")
-                           << QVariant("Gain");
-    QTest::newRow("description") << "DescriptionElement" << QByteArray("description")
-                                 << QByteArray("descriptionChanged(QString)") << QVariant("Other");
-    QTest::newRow("extended description") << "DescriptionComponent" << QByteArray("description")
-                                          << QByteArray("descriptionChanged(QString)") << QVariant("Other");
-    QTest::newRow("url text") << "UrlElement" << QByteArray("text") << QByteArray("textChanged(QString)")
-                              << QVariant("Help");
-    QTest::newRow("url address") << "UrlElement" << QByteArray("url") << QByteArray("urlChanged(QString)")
-                                 << QVariant("https://example.invalid/other");
-    QTest::newRow("spin value") << "SpinBoxComponent" << QByteArray("spinValue") << QByteArray("spinValueChanged(int)")
-                                << QVariant(7);
-    QTest::newRow("spin value outside range")
-        << "SpinBoxComponent" << QByteArray("spinValue") << QByteArray("spinValueChanged(int)") << QVariant(1000);
-    QTest::newRow("spin from") << "SpinBoxComponent" << QByteArray("spinFrom") << QByteArray("spinFromChanged(int)")
-                               << QVariant(-3);
-    QTest::newRow("spin to") << "SpinBoxComponent" << QByteArray("spinTo") << QByteArray("spinToChanged(int)")
-                             << QVariant(50);
-    QTest::newRow("spin step") << "SpinBoxComponent" << QByteArray("step") << QByteArray("stepChanged(int)")
-                               << QVariant(5);
-    QTest::newRow("spin text") << "SpinBoxComponent" << QByteArray("spinText") << QByteArray("spinTextChanged(QString)")
-                               << QVariant("Gain");
-    QTest::newRow("spin icon") << "SpinBoxComponent" << QByteArray("iconText") << QByteArray("iconTextChanged(QString)")
-                               << QVariant("s");
-    QTest::newRow("spin typed text") << "SpinBoxComponent" << QByteArray("textInput")
-                                     << QByteArray("vTextChanged(QString)") << QVariant("42");
-    QTest::newRow("double value") << "DoubleSpinBoxComponent" << QByteArray("spinValue")
-                                  << QByteArray("spinValueChanged(double)") << QVariant(2.25);
-    QTest::newRow("double from") << "DoubleSpinBoxComponent" << QByteArray("spinFrom")
-                                 << QByteArray("spinFromChanged(double)") << QVariant(-1.0);
-    QTest::newRow("double to") << "DoubleSpinBoxComponent" << QByteArray("spinTo")
-                               << QByteArray("spinToChanged(double)") << QVariant(20.0);
-    QTest::newRow("double step") << "DoubleSpinBoxComponent" << QByteArray("step") << QByteArray("stepChanged(double)")
-                                 << QVariant(0.1);
-    QTest::newRow("double text") << "DoubleSpinBoxComponent" << QByteArray("spinText")
-                                 << QByteArray("spinTextChanged(QString)") << QVariant("Zero");
-    QTest::newRow("switch status") << "SwitchComponent" << QByteArray("status") << QByteArray("statusChanged(bool)")
-                                   << QVariant(true);
-    QTest::newRow("switch text") << "SwitchComponent" << QByteArray("switchText")
-                                 << QByteArray("switchTextChanged(QString)") << QVariant("Laser off");
-    QTest::newRow("switch icon") << "SwitchComponent" << QByteArray("iconText")
-                                 << QByteArray("iconTextChanged(QString)") << QVariant("x");
-    QTest::newRow("label text") << "LabelComponent" << QByteArray("labelText") << QByteArray("textChanged(QString)")
-                                << QVariant("Height");
-    QTest::newRow("label icon") << "LabelComponent" << QByteArray("iconText") << QByteArray("iconTextChanged(QString)")
-                                << QVariant("y");
-    QTest::newRow("button text") << "ButtonComponent" << QByteArray("buttonText")
-                                 << QByteArray("buttonTextChanged(QString)") << QVariant("Again");
-    QTest::newRow("button label") << "ButtonComponent" << QByteArray("labelText")
-                                  << QByteArray("labelTextChanged(QString)") << QVariant("Once more");
-    QTest::newRow("buttons selected") << "ButtonsComponent" << QByteArray("selected")
-                                      << QByteArray("selectedChanged(uchar)") << QVariant::fromValue<uchar>(2);
-    QTest::newRow("buttons names") << "ButtonsComponent" << QByteArray("names")
-                                   << QByteArray("namesChanged(QStringList)") << QVariant(QStringList { "Off", "On" });
-    QTest::newRow("box colour") << "BoxComponent" << QByteArray("buttonColor")
-                                << QByteArray("buttonColorChanged(QString)") << QVariant("green");
-    QTest::newRow("box button") << "BoxComponent" << QByteArray("buttonText")
-                                << QByteArray("buttonTextChanged(QString)") << QVariant("Stop");
-    QTest::newRow("box label") << "BoxComponent" << QByteArray("labelText") << QByteArray("labelTextChanged(QString)")
-                               << QVariant("Run");
-    QTest::newRow("check value") << "CheckBoxComponent" << QByteArray("spinValue")
-                                 << QByteArray("spinValueChanged(int)") << QVariant(0);
-    QTest::newRow("check to") << "CheckBoxComponent" << QByteArray("spinTo") << QByteArray("spinToChanged(int)")
-                              << QVariant(3);
-    QTest::newRow("combo index") << "ComboBoxComponent" << QByteArray("selectedIndex")
-                                 << QByteArray("selectedIndexChanged(int)") << QVariant(2);
-    QTest::newRow("combo items") << "ComboBoxComponent" << QByteArray("itemList")
-                                 << QByteArray("itemListChanged(QStringList)") << QVariant(QStringList { "A" });
-    QTest::newRow("combo help") << "ComboBoxComponent" << QByteArray("helpText")
-                                << QByteArray("helpTextChanged(QString)") << QVariant("Pick one");
-    QTest::newRow("signal label") << "SignalComponent" << QByteArray("labelText")
-                                  << QByteArray("labelTextChanged(QString)") << QVariant("Level");
-    QTest::newRow("signal button colour") << "SignalComponent" << QByteArray("buttonColor")
-                                          << QByteArray("buttonColorChanged(QString)") << QVariant("red");
-    QTest::newRow("element enabled") << "SpacerElement" << QByteArray("enabled") << QByteArray("enabledChanged(bool)")
-                                     << QVariant(false);
-    QTest::newRow("element visible") << "TitleComponent" << QByteArray("visible") << QByteArray("visibleChanged(bool)")
-                                     << QVariant(false);
+    QTest::newRow("url address") << "UrlElement" << "url" << "urlChanged" << QVariant("https://example.invalid/b");
+    QTest::newRow("spin value is not clamped") << "SpinBoxComponent" << "spinValue" << "spinValueChanged"
+                                               << QVariant(1000);
+    QTest::newRow("spin from") << "SpinBoxComponent" << "spinFrom" << "spinFromChanged" << QVariant(-3);
+    QTest::newRow("spin to") << "SpinBoxComponent" << "spinTo" << "spinToChanged" << QVariant(50);
+    QTest::newRow("spin step") << "SpinBoxComponent" << "step" << "stepChanged" << QVariant(5);
+    QTest::newRow("spin typed text") << "SpinBoxComponent" << "textInput" << "vTextChanged" << QVariant("42");
+    QTest::newRow("switch icon") << "SwitchComponent" << "iconText" << "iconTextChanged" << QVariant("x");
+    QTest::newRow("label text") << "LabelComponent" << "labelText" << "textChanged" << QVariant("Height");
+    QTest::newRow("label icon") << "LabelComponent" << "iconText" << "iconTextChanged" << QVariant("y");
+    QTest::newRow("box colour") << "BoxComponent" << "buttonColor" << "buttonColorChanged" << QVariant("green");
+    QTest::newRow("box button") << "BoxComponent" << "buttonText" << "buttonTextChanged" << QVariant("Stop");
+    QTest::newRow("check to") << "CheckBoxComponent" << "spinTo" << "spinToChanged" << QVariant(3);
+    QTest::newRow("signal label") << "SignalComponent" << "labelText" << "labelTextChanged" << QVariant("Level");
+    QTest::newRow("signal colour") << "SignalComponent" << "buttonColor" << "buttonColorChanged" << QVariant("red");
+    QTest::newRow("element enabled") << "SpacerElement" << "enabled" << "enabledChanged" << QVariant(false);
+    QTest::newRow("element visible") << "TitleComponent" << "visible" << "visibleChanged" << QVariant(false);
 }
 
 // Writing the present value is silent; a new value is stored and announced once, with the value.
 void tst_Components::propertyPattern()
 {
     QFETCH(QString, className);
-    QFETCH(QByteArray, propertyName);
-    QFETCH(QByteArray, notifySignal);
+    QFETCH(QString, propertyName);
+    QFETCH(QString, notifyName);
     QFETCH(QVariant, newValue);
-
     QObject owner;
     Element *element = createElement(className, &owner);
-    const QMetaObject *mo = element->metaObject();
-    const QMetaProperty property = mo->property(mo->indexOfProperty(propertyName.constData()));
-    QVERIFY(property.isValid());
+    const QByteArray name = propertyName.toLatin1();
+    const QMetaProperty property = metaProperty(element, name);
     QVERIFY(property.isWritable());
-    QVERIFY(property.hasNotifySignal());
-    QCOMPARE(property.notifySignal().methodSignature(), notifySignal);
-
-    std::unique_ptr<QSignalSpy> spy(notifySpy(element, property));
+    QCOMPARE(property.notifySignal().name(), notifyName.toLatin1());
+    const auto spy = notifySpy(element, property);
     QVERIFY(spy->isValid());
-    const QVariant before = element->property(propertyName.constData());
-    QVERIFY(element->setProperty(propertyName.constData(), before));
+
+    QVERIFY(element->setProperty(name, element->property(name)));
     QCOMPARE(spy->count(), 0);
-
-    QVERIFY(before != newValue);
-    QVERIFY(element->setProperty(propertyName.constData(), newValue));
-    QCOMPARE(element->property(propertyName.constData()), newValue);
+    QVERIFY(element->setProperty(name, newValue));
+    QVERIFY(element->setProperty(name, newValue));
+    QCOMPARE(element->property(name), newValue);
     QCOMPARE(spy->count(), 1);
-    if (property.notifySignal().parameterCount() == 1)
-        QCOMPARE(spy->at(0).at(0), newValue);
-
-    QVERIFY(element->setProperty(propertyName.constData(), newValue));
-    QCOMPARE(spy->count(), 1);
+    QCOMPARE(spy->at(0).at(0), newValue);
 }
 
 void tst_Components::fuzzyDouble_data()
@@ -279,9 +252,9 @@ void tst_Components::fuzzyDouble_data()
     QTest::newRow("negative values") << -5.0 << -5.0 * (1.0 + 1e-13) << false;
     QTest::newRow("zero vs zero") << 0.0 << 0.0 << false;
     QTest::newRow("zero vs tiny is a change") << 0.0 << 1e-300 << true;
-    QTest::newRow("sign change") << 1e-20 << -1e-20 << true;
 }
 
+// Every double of the spin box compares fuzzily; a value judged equal is not stored either.
 void tst_Components::fuzzyDouble()
 {
     QFETCH(double, start);
@@ -289,20 +262,12 @@ void tst_Components::fuzzyDouble()
     QFETCH(bool, emits);
     QObject owner;
     DoubleSpinBoxComponent box(&owner, start, start, start, start, QString(), QString());
-    QSignalSpy values(&box, &DoubleSpinBoxComponent::spinValueChanged);
-    QSignalSpy froms(&box, &DoubleSpinBoxComponent::spinFromChanged);
-    QSignalSpy tos(&box, &DoubleSpinBoxComponent::spinToChanged);
-    QSignalSpy steps(&box, &DoubleSpinBoxComponent::stepChanged);
-    box.setSpinValue(next);
-    box.setSpinFrom(next);
-    box.setSpinTo(next);
-    box.setStep(next);
-    QCOMPARE(values.count(), emits ? 1 : 0);
-    QCOMPARE(froms.count(), emits ? 1 : 0);
-    QCOMPARE(tos.count(), emits ? 1 : 0);
-    QCOMPARE(steps.count(), emits ? 1 : 0);
-    // A value judged equal is not stored either.
-    QCOMPARE(box.spinValue(), emits ? next : start);
+    for (const char *name : { "spinValue", "spinFrom", "spinTo", "step" }) {
+        const auto spy = notifySpy(&box, metaProperty(&box, name));
+        QVERIFY(box.setProperty(name, next));
+        QVERIFY2(spy->count() == (emits ? 1 : 0), name);
+        QCOMPARE(box.property(name).toDouble(), emits ? next : start);
+    }
 }
 
 void tst_Components::restore_data()
@@ -321,6 +286,7 @@ void tst_Components::restore_data()
     QTest::newRow("combo box") << "ComboBoxComponent" << QByteArray("selectedIndex") << QVariant(0) << QVariant(2);
 }
 
+// Untouched: nothing to put back. Changed: put back and announced once, then never again.
 void tst_Components::restore()
 {
     QFETCH(QString, className);
@@ -329,27 +295,17 @@ void tst_Components::restore()
     QFETCH(QVariant, changed);
     QObject owner;
     Element *element = createElement(className, &owner);
-    const QMetaObject *mo = element->metaObject();
-    const QMetaProperty property = mo->property(mo->indexOfProperty(propertyName.constData()));
-    std::unique_ptr<QSignalSpy> spy(notifySpy(element, property));
-
-    // Untouched: nothing to put back.
+    const auto spy = notifySpy(element, metaProperty(element, propertyName));
     element->restore();
     QCOMPARE(spy->count(), 0);
 
-    element->setProperty(propertyName.constData(), changed);
+    QVERIFY(element->setProperty(propertyName, changed));
     spy->clear();
     element->restore();
-    QCOMPARE(element->property(propertyName.constData()), stored);
+    element->restore();
+    QCOMPARE(element->property(propertyName), stored);
     QCOMPARE(spy->count(), 1);
     QCOMPARE(spy->at(0).at(0), stored);
-    element->restore();
-    QCOMPARE(spy->count(), 1);
-
-    // The stored value is the constructor's, whatever happened since.
-    element->setProperty(propertyName.constData(), changed);
-    element->restore();
-    QCOMPARE(element->property(propertyName.constData()), stored);
 }
 
 void tst_Components::translateTexts_data()
@@ -360,11 +316,7 @@ void tst_Components::translateTexts_data()
     QTest::newRow("title") << "TitleComponent" << QByteArray("title") << QVariant("de:Exposure");
     QTest::newRow("description") << "DescriptionElement" << QByteArray("description")
                                  << QVariant("de:Place the target");
-    QTest::newRow("extended description")
-        << "DescriptionComponent" << QByteArray("description") << QVariant("de:Look here");
     QTest::newRow("url text") << "UrlElement" << QByteArray("text") << QVariant("de:Manual");
-    QTest::newRow("spin text") << "SpinBoxComponent" << QByteArray("spinText") << QVariant("de:Exposure time");
-    QTest::newRow("spin icon") << "SpinBoxComponent" << QByteArray("iconText") << QVariant("de:ms");
     QTest::newRow("double text") << "DoubleSpinBoxComponent" << QByteArray("spinText") << QVariant("de:Offset");
     QTest::newRow("switch text") << "SwitchComponent" << QByteArray("switchText") << QVariant("de:Laser on");
     QTest::newRow("label text") << "LabelComponent" << QByteArray("labelText") << QVariant("de:Distance");
@@ -389,11 +341,11 @@ void tst_Components::translateTexts()
     QFETCH(QVariant, expected);
     QObject owner;
     Element *element = createElement(className, &owner);
-    const QMetaObject *mo = element->metaObject();
-    const QMetaProperty property = mo->property(mo->indexOfProperty(propertyName.constData()));
-    std::unique_ptr<QSignalSpy> spy(notifySpy(element, property));
+    const QMetaProperty property = metaProperty(element, propertyName);
+    QVERIFY(property.isWritable());
+    const auto spy = notifySpy(element, property);
     QSignalSpy language(element, &Element::languageChanged);
-    const QVariant source = element->property(propertyName.constData());
+    const QVariant source = element->property(propertyName);
 
     element->translate(); // no translator: sources stay
     QCOMPARE(spy->count(), 0);
@@ -404,13 +356,14 @@ void tst_Components::translateTexts()
     element->translate();
     QCoreApplication::removeTranslator(&german);
     QCOMPARE(spy->count(), 1);
-    QCOMPARE(element->property(propertyName.constData()), expected);
+    QCOMPARE(spy->at(0).at(0), expected);
+    QCOMPARE(element->property(propertyName), expected);
     // A component's own translate replaces the base one.
     QCOMPARE(language.count(), 0);
 
     element->translate();
     QCOMPARE(spy->count(), 2);
-    QCOMPARE(element->property(propertyName.constData()), source);
+    QCOMPARE(element->property(propertyName), source);
 }
 
 void tst_Components::spinBoxRetranslatesSpinTextFirst()
@@ -437,9 +390,8 @@ void tst_Components::spinBoxViewSlots()
     QSignalSpy clicked(&box, &Element::elementClicked);
     QSignalSpy text(&box, &SpinBoxComponent::vTextChanged);
     QSignalSpy finished(&box, &SpinBoxComponent::editingFinished);
-    QVERIFY(clicked.isValid());
 
-    // The view calls the slot by name, as QML and text connects do.
+    // The view calls the slots by name, as QML and text connects do.
     QVERIFY(QMetaObject::invokeMethod(&box, "elementClicked"));
     QCOMPARE(button.count(), 1);
     QCOMPARE(clicked.count(), 1);
@@ -448,7 +400,6 @@ void tst_Components::spinBoxViewSlots()
     QVERIFY(QMetaObject::invokeMethod(&box, "vTestFinished", Q_ARG(QString, QStringLiteral("12"))));
     QCOMPARE(box.textInput(), QStringLiteral("12"));
     QCOMPARE(text.count(), 1);
-    QCOMPARE(text.at(0).at(0).toString(), QStringLiteral("12"));
     QCOMPARE(finished.count(), 2);
 }
 
@@ -456,64 +407,59 @@ void tst_Components::signalComponentQuirks()
 {
     QObject owner;
     SignalComponent signal(&owner, QStringLiteral("first"), QStringLiteral("icon"), QStringLiteral("third"));
-    QCOMPARE(int(signal.typeID()), int(Element::DoubleSpinBox));
     QCOMPARE(signal.labelText(), QStringLiteral("test"));
     QCOMPARE(signal.buttonText(), QStringLiteral("67847"));
     QCOMPARE(signal.buttonColor(), QString());
     QCOMPARE(signal.iconText(), QStringLiteral("icon"));
     QCOMPARE(int(signal.nisDefaultText()), 0);
 
-    const struct
-    {
-        const char *property;
-        const char *signal;
-    } colours[] = { { "backgroundColor", SIGNAL(backgroundColorChanged()) },
-        { "backgroundColor1", SIGNAL(backgroundColorChanged1()) },
-        { "backgroundColor2", SIGNAL(backgroundColorChanged2()) },
-        { "backgroundColor3", SIGNAL(backgroundColorChanged3()) } };
-    for (const auto &colour : colours) {
-        QCOMPARE(signal.property(colour.property).toString(), QStringLiteral("white"));
-        QSignalSpy spy(&signal, colour.signal);
-        QVERIFY(spy.isValid());
-        // Same colour twice: both calls are announced.
-        signal.setProperty(colour.property, QStringLiteral("white"));
-        signal.setProperty(colour.property, QStringLiteral("white"));
-        signal.setProperty(colour.property, QStringLiteral("#00ff00"));
-        QCOMPARE(spy.count(), 3);
-        QCOMPARE(signal.property(colour.property).toString(), QStringLiteral("#00ff00"));
+    // Background colours start white and are announced on every write, even of the same colour.
+    for (const char *name : { "backgroundColor", "backgroundColor1", "backgroundColor2", "backgroundColor3" }) {
+        QCOMPARE(signal.property(name).toString(), QStringLiteral("white"));
+        const auto spy = notifySpy(&signal, metaProperty(&signal, name));
+        QVERIFY(spy->isValid());
+        signal.setProperty(name, QStringLiteral("white"));
+        signal.setProperty(name, QStringLiteral("white"));
+        signal.setProperty(name, QStringLiteral("#00ff00"));
+        QVERIFY2(spy->count() == 3, name);
+        QCOMPARE(signal.property(name).toString(), QStringLiteral("#00ff00"));
     }
 }
 
-void tst_Components::constantsKeepConstructorValues()
+void tst_Components::constants_data()
 {
-    QObject owner;
-    auto *title = static_cast<TitleComponent *>(createElement(QStringLiteral("TitleComponent"), &owner));
-    QCOMPARE(title->icon(), QStringLiteral("clock.svg"));
-    QCOMPARE(title->text(), QStringLiteral("hint"));
-    auto *spacer = static_cast<SpacerElement *>(createElement(QStringLiteral("SpacerElement"), &owner));
-    QCOMPARE(spacer->height(), 25);
-    QCOMPARE(spacer->parent(), &owner);
-    auto *images = static_cast<DescriptionComponent *>(createElement(QStringLiteral("DescriptionComponent"), &owner));
-    QCOMPARE(images->images(), (QStringList { "a.png", "b.png" }));
-    QVERIFY(qobject_cast<DescriptionElement *>(images));
-    auto *label = static_cast<LabelComponent *>(createElement(QStringLiteral("LabelComponent"), &owner));
-    QCOMPARE(int(label->xPos()), 12);
-    auto *button = static_cast<ButtonComponent *>(createElement(QStringLiteral("ButtonComponent"), &owner));
-    QVERIFY(button->alignRight());
-    auto *buttons = static_cast<ButtonsComponent *>(createElement(QStringLiteral("ButtonsComponent"), &owner));
-    QCOMPARE(int(buttons->columns()), 3);
-    QCOMPARE(int(buttons->spacing()), 4);
-    auto *box = static_cast<BoxComponent *>(createElement(QStringLiteral("BoxComponent"), &owner));
-    QCOMPARE(box->buttonColor(), QStringLiteral("white"));
+    QTest::addColumn<QString>("className");
+    QTest::addColumn<QByteArray>("propertyName");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("constant");
+    QTest::newRow("title icon") << "TitleComponent" << QByteArray("icon") << QVariant("clock.svg") << true;
+    QTest::newRow("spacer height") << "SpacerElement" << QByteArray("height") << QVariant(25) << true;
+    QTest::newRow("images") << "DescriptionComponent" << QByteArray("images")
+                            << QVariant(QStringList { "a.png", "b.png" }) << true;
+    QTest::newRow("url icon") << "UrlElement" << QByteArray("icon") << QVariant("link.svg") << true;
+    QTest::newRow("label x") << "LabelComponent" << QByteArray("xPos") << QVariant::fromValue<uchar>(12) << true;
+    QTest::newRow("button alignment") << "ButtonComponent" << QByteArray("alignRight") << QVariant(true) << true;
+    QTest::newRow("buttons columns") << "ButtonsComponent" << QByteArray("columns") << QVariant::fromValue<uchar>(3)
+                                     << true;
+    QTest::newRow("buttons spacing") << "ButtonsComponent" << QByteArray("spacing") << QVariant::fromValue<uchar>(4)
+                                     << true;
+    QTest::newRow("box colour starts white") << "BoxComponent" << QByteArray("buttonColor") << QVariant("white")
+                                             << false;
+}
 
-    const char *constants[] = { "icon", "height", "images", "xPos", "alignRight", "columns", "spacing" };
-    for (QObject *child : owner.children()) {
-        for (const char *name : constants) {
-            const int index = child->metaObject()->indexOfProperty(name);
-            if (index >= 0)
-                QVERIFY2(child->metaObject()->property(index).isConstant(), name);
-        }
-    }
+void tst_Components::constants()
+{
+    QFETCH(QString, className);
+    QFETCH(QByteArray, propertyName);
+    QFETCH(QVariant, value);
+    QFETCH(bool, constant);
+    QObject owner;
+    Element *element = createElement(className, &owner);
+    const QMetaProperty property = metaProperty(element, propertyName);
+    QVERIFY(property.isValid());
+    QCOMPARE(property.isConstant(), constant);
+    QCOMPARE(property.isWritable(), !constant);
+    QCOMPARE(element->property(propertyName), value);
 }
 
 QTEST_GUILESS_MAIN(tst_Components)
