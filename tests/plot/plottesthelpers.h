@@ -2,15 +2,19 @@
 #ifndef UTILS_TESTS_PLOTTESTHELPERS_H
 #define UTILS_TESTS_PLOTTESTHELPERS_H
 
+#include <plot/plot.h>
+
 #include <qwt_plot.h>
 #include <qwt_scale_div.h>
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QTest>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <cmath>
+#include <memory>
 
 namespace PlotTest {
 
@@ -39,6 +43,27 @@ inline void drag(QWidget *target, Qt::MouseButton button, const QPoint &from, co
     QTest::mouseRelease(target, button, Qt::NoModifier, to);
 }
 
+//! A shown plot laid out in a fresh \a host, as an application embeds it.
+inline Utils::Plot *showPlot(std::unique_ptr<QWidget> &host, bool noTools = false)
+{
+    host.reset(new QWidget);
+    auto *plot = new Utils::Plot(host.get(), noTools);
+    (new QVBoxLayout(host.get()))->addWidget(plot);
+    host->resize(640, 420);
+    host->show();
+    if (!QTest::qWaitForWindowExposed(host.get()))
+        qWarning("window not exposed");
+    plot->replot();
+    return plot;
+}
+
+//! Shows [\a low, \a high] on \a axis without touching the tools' limits.
+inline void setView(QwtPlot &plot, int axis, double low, double high)
+{
+    plot.setAxisScale(axis, low, high);
+    plot.replot();
+}
+
 inline double lower(const QwtPlot &plot, int axis)
 {
     return plot.axisScaleDiv(axis).lowerBound();
@@ -47,6 +72,11 @@ inline double lower(const QwtPlot &plot, int axis)
 inline double upper(const QwtPlot &plot, int axis)
 {
     return plot.axisScaleDiv(axis).upperBound();
+}
+
+inline double span(const QwtPlot &plot, int axis)
+{
+    return upper(plot, axis) - lower(plot, axis);
 }
 
 //! Distance between the first two major ticks, 0 when there are fewer.

@@ -22,13 +22,22 @@
 #include <QSignalSpy>
 #include <QTimer>
 #include <QTranslator>
-#include <QVBoxLayout>
 
-#include <functional>
 #include <memory>
 
 using namespace PlotTest;
 using Utils::Plot;
+
+struct WheelCase
+{
+    double limitLow, limitHigh, viewLow, viewHigh;
+    double minimumLevel; // < 0: keep the default
+    double rightSpan;    // > 0: show yRight with this span
+    int delta;
+    bool accepted;
+    double expectedSpan; // upper - lower, so negative on an inverted axis
+};
+Q_DECLARE_METATYPE(WheelCase)
 
 namespace {
 
@@ -39,52 +48,59 @@ QString settingsFile()
 
 void writeAxisType(int type)
 {
-    QSettings settings(settingsFile(), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("plot/xPlotAxisType"), type);
-    settings.sync();
+    QSettings(settingsFile(), QSettings::IniFormat).setValue(QStringLiteral("plot/xPlotAxisType"), type);
 }
 
 int readAxisType()
 {
-    QSettings settings(settingsFile(), QSettings::IniFormat);
-    return settings.value(QStringLiteral("plot/xPlotAxisType"), -1).toInt();
+    return QSettings(settingsFile(), QSettings::IniFormat).value(QStringLiteral("plot/xPlotAxisType"), -1).toInt();
 }
 
-//! Clicks the action called \a text of the next popup menu; records what the menu offered.
-struct MenuDriver
+//! What a popup menu offered, and the click on one of its entries.
+struct MenuSeen
 {
     QStringList offered;
     QStringList checked;
-    bool done = false;
+    bool shown = false;
 
-    void clickWhenShown(const QString &text)
-    {
-        QTimer::singleShot(20, [this, text]() { poll(text, 200); });
-    }
-
-    void poll(const QString &text, int triesLeft)
+    void poll(const QString &pick, int triesLeft)
     {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         if (!menu) {
             if (triesLeft > 0)
-                QTimer::singleShot(10, [this, text, triesLeft]() { poll(text, triesLeft - 1); });
+                QTimer::singleShot(10, [this, pick, triesLeft]() { poll(pick, triesLeft - 1); });
             return;
         }
+        shown = true;
         QAction *target = nullptr;
         for (QAction *action : menu->actions()) {
             offered << action->text();
             if (action->isChecked())
                 checked << action->text();
-            if (action->text() == text)
+            if (action->text() == pick)
                 target = action;
         }
-        done = true;
         if (target)
             QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(target).center());
         else
             menu->close();
     }
 };
+
+void rightClick(QWidget *widget)
+{
+    QTest::mousePress(widget, Qt::RightButton, Qt::NoModifier, widget->rect().center());
+}
+
+//! Right-clicks the time axis and picks \a pick from its menu (an unknown entry dismisses it).
+MenuSeen pickFromAxisMenu(Plot *plot, const QString &pick)
+{
+    MenuSeen seen;
+    QTimer::singleShot(0, [&seen, pick]() { seen.poll(pick, 200); });
+    rightClick(plot->axisWidget(QwtPlot::xBottom));
+    (void)QTest::qWaitFor([&seen]() { return seen.shown; }, 3000); // no poll may outlive seen
+    return seen;
+}
 
 } // namespace
 
@@ -101,8 +117,6 @@ private Q_SLOTS:
     void setAxisScaleSharesLimits();
     void wheelZoom_data();
     void wheelZoom();
-    void wheelZoomInvertedWithRightAxis_data();
-    void wheelZoomInvertedWithRightAxis();
     void centreZoom_data();
     void centreZoom();
     void centreZoomRightAxis_data();
@@ -123,44 +137,27 @@ private Q_SLOTS:
     void zoomResetRectangle();
     void doubleClick_data();
     void doubleClick();
-    void leftPressAndRelease();
-    void clickPicker();
+    void leftClick_data();
+    void leftClick();
     void axisMenu();
     void axisMenuElsewhereDoesNothing();
     void timeLabels_data();
     void timeLabels();
     void displayValueLabels();
     void trackerText();
-    void languageChange();
     void germanTranslation();
     void resizeEmitsAxisChanged();
 
 private:
-    Plot *makePlot(bool noTools = false);
-
     std::unique_ptr<QWidget> m_host;
     Plot *m_plot = nullptr;
 };
-
-Plot *tst_Plot::makePlot(bool noTools)
-{
-    m_host.reset(new QWidget);
-    auto *layout = new QVBoxLayout(m_host.get());
-    m_plot = new Plot(m_host.get(), noTools);
-    layout->addWidget(m_plot);
-    m_host->resize(640, 420);
-    m_host->show();
-    if (!QTest::qWaitForWindowExposed(m_host.get()))
-        qWarning("window not exposed");
-    m_plot->replot();
-    return m_plot;
-}
 
 void tst_Plot::init()
 {
     // Tests write the settings file next to the test binary: start and end clean.
     QFile::remove(settingsFile());
-    makePlot();
+    m_plot = showPlot(m_host);
 }
 
 void tst_Plot::cleanup()
@@ -175,21 +172,6 @@ void tst_Plot::construction()
     Plot &plot = *m_plot;
     QCOMPARE(lower(plot, QwtPlot::yLeft), 0.0);
     QCOMPARE(upper(plot, QwtPlot::yLeft), 300.0);
-    QVERIFY(plot.poZoomer() && plot.poPanner() && plot.poValueMagnifier() && plot.poTimeMagnifier());
-    QCOMPARE(plot.poValueMagnifier()->getMaxYRange(), 300.0);
-    QCOMPARE(plot.poValueMagnifier()->getMinYRange(), 0.0);
-    QCOMPARE(plot.poValueMagnifier()->minimumZoomLevel(), 2.0);
-    QCOMPARE(plot.poTimeMagnifier()->minimumZoomLevel(), 2.0);
-    QCOMPARE(plot.poZoomer()->upperValueBound(), 300.0);
-    QCOMPARE(plot.poZoomer()->minimumSelectionHeight(), 1.0);
-    QCOMPARE(plot.poPanner()->lowerPanLimit(), 0.0);
-    QCOMPARE(plot.poPanner()->upperPanLimit(), 300.0);
-    Qt::MouseButton button = Qt::NoButton;
-    Qt::KeyboardModifiers modifiers;
-    plot.poPanner()->getMouseButton(button, modifiers);
-    QCOMPARE(button, Qt::RightButton);
-    QCOMPARE(plot.poPanner()->orientations(), Qt::Orientations(Qt::Vertical));
-    QVERIFY(!plot.poPanner()->isAxisEnabled(QwtPlot::xBottom));
     QVERIFY(!plot.poValueMagnifier()->isAxisEnabled(QwtPlot::xBottom));
     QVERIFY(!plot.poTimeMagnifier()->isAxisEnabled(QwtPlot::yLeft));
     QVERIFY(!plot.autoReplot());
@@ -197,9 +179,7 @@ void tst_Plot::construction()
     QVERIFY(dynamic_cast<Utils::TimeScaleDraw *>(plot.axisScaleDraw(QwtPlot::xBottom)));
     QVERIFY(dynamic_cast<Utils::AxisScaleEngine *>(plot.axisScaleEngine(QwtPlot::yLeft)));
     QCOMPARE(plot.canvas()->palette().brush(QPalette::Window).color(), QColor(Qt::white));
-    QVERIFY(!plot.getZoomResetClick());
-    QVERIFY(!plot.checkIndependentPlot());
-    QVERIFY(!plot.negativeValuesEnabled());
+    QVERIFY(!plot.getZoomResetClick() && !plot.checkIndependentPlot() && !plot.negativeValuesEnabled());
     QCOMPARE(plot.secondValue(), 0.0);
 
     const QwtPlotItemList grids = plot.itemList(QwtPlotItem::Rtti_PlotGrid);
@@ -212,7 +192,7 @@ void tst_Plot::construction()
 
 void tst_Plot::withoutTools()
 {
-    Plot *plot = makePlot(true);
+    Plot *plot = showPlot(m_host, true);
     QVERIFY(!plot->poZoomer() && !plot->poPanner() && !plot->poValueMagnifier() && !plot->poTimeMagnifier());
     QVERIFY(plot->poTimeScaleDraw() && plot->poScaleEngine());
     // Operations on missing tools are harmless.
@@ -247,83 +227,44 @@ void tst_Plot::setAxisScaleSharesLimits()
 
 void tst_Plot::wheelZoom_data()
 {
-    QTest::addColumn<double>("limitLow");
-    QTest::addColumn<double>("limitHigh");
-    QTest::addColumn<double>("viewLow");
-    QTest::addColumn<double>("viewHigh");
-    QTest::addColumn<double>("minimumLevel"); // < 0: keep the default
-    QTest::addColumn<int>("delta");
-    QTest::addColumn<bool>("accepted");
-    QTest::addColumn<double>("expectedSpan");
-
-    QTest::newRow("zoom in") << 0.0 << 300.0 << 0.0 << 100.0 << -1.0 << -120 << true << 90.0;
-    QTest::newRow("zoom in refused at the default level") << 0.0 << 300.0 << 10.0 << 12.0 << -1.0 << -120 << false << 2.0;
-    QTest::newRow("zoom in just above the default level") << 0.0 << 300.0 << 10.0 << 14.0 << -1.0 << -120 << true << 3.6;
-    QTest::newRow("level 3 means 4: refused at span 4") << 0.0 << 300.0 << 10.0 << 14.0 << 3.0 << -120 << false << 4.0;
-    QTest::newRow("zoom out refused at the maximum range") << 0.0 << 300.0 << 0.0 << 300.0 << -1.0 << 120 << false << 300.0;
-    QTest::newRow("zoom out refused above the maximum range") << 0.0 << 100.0 << 0.0 << 150.0 << -1.0 << 120 << false << 150.0;
-    QTest::newRow("zoom out below the maximum range") << 0.0 << 300.0 << 0.0 << 90.0 << -1.0 << 120 << true << 100.0;
+    QTest::addColumn<WheelCase>("c");
+    QTest::newRow("zoom in") << WheelCase{0, 300, 0, 100, -1, 0, -120, true, 90};
+    QTest::newRow("zoom in refused at the default level 2") << WheelCase{0, 300, 10, 12, -1, 0, -120, false, 2};
+    QTest::newRow("zoom in just above the default level") << WheelCase{0, 300, 10, 14, -1, 0, -120, true, 3.6};
+    QTest::newRow("level 3 means 4: refused at span 4") << WheelCase{0, 300, 10, 14, 3, 0, -120, false, 4};
+    QTest::newRow("zoom out refused at the maximum range") << WheelCase{0, 300, 0, 300, -1, 0, 120, false, 300};
+    QTest::newRow("zoom out below the maximum range") << WheelCase{0, 300, 0, 90, -1, 0, 120, true, 100};
+    // With yRight shown on an inverted left axis the limit is a fixed 20 on the right span.
+    QTest::newRow("inverted, right span 20: refused") << WheelCase{0, 300, 100, 0, -1, 20, 120, false, -100};
+    QTest::newRow("inverted, right span 10: zooms out") << WheelCase{0, 300, 100, 0, -1, 10, 120, true, -100 / 0.9};
 }
 
 void tst_Plot::wheelZoom()
 {
-    QFETCH(double, limitLow);
-    QFETCH(double, limitHigh);
-    QFETCH(double, viewLow);
-    QFETCH(double, viewHigh);
-    QFETCH(double, minimumLevel);
-    QFETCH(int, delta);
-    QFETCH(bool, accepted);
-    QFETCH(double, expectedSpan);
-
-    m_plot->setAxisScale(QwtPlot::yLeft, limitLow, limitHigh, 0.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, viewLow, viewHigh);
-    m_plot->replot();
-    if (minimumLevel >= 0.0)
-        m_plot->setMinimumZoomLevel(minimumLevel);
+    QFETCH(WheelCase, c);
+    if (c.rightSpan > 0.0) {
+        m_plot->enableRightAxis(true);
+        m_plot->setAxisScale(QwtPlot::yRight, 0.0, c.rightSpan, 0.0);
+    }
+    m_plot->setAxisScale(QwtPlot::yLeft, c.limitLow, c.limitHigh, 0.0);
+    setView(*m_plot, QwtPlot::yLeft, c.viewLow, c.viewHigh);
+    if (c.minimumLevel >= 0.0)
+        m_plot->setMinimumZoomLevel(c.minimumLevel);
     QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
     int centreAsked = 0; // QSignalSpy cannot hold a double &
     connect(m_plot, &Plot::zoomCenterSignalEvent, this, [&centreAsked](double &) { ++centreAsked; });
 
-    wheel(m_plot->canvas(), QPoint(100, 100), delta);
+    wheel(m_plot->canvas(), QPoint(100, 100), c.delta);
 
-    QCOMPARE(magnified.count(), accepted ? 1 : 0);
-    QCOMPARE(centreAsked, accepted ? 1 : 0);
-    const double span = upper(*m_plot, QwtPlot::yLeft) - lower(*m_plot, QwtPlot::yLeft);
-    QVERIFY2(near(span, expectedSpan, 1e-6), qPrintable(QString::number(span)));
-    if (accepted) {
-        QVERIFY(near(magnified.first().first().toDouble(), delta < 0 ? 0.9 : 1.0 / 0.9));
+    QCOMPARE(magnified.count(), c.accepted ? 1 : 0);
+    QCOMPARE(centreAsked, c.accepted ? 1 : 0);
+    const double now = span(*m_plot, QwtPlot::yLeft);
+    QVERIFY2(near(now, c.expectedSpan, 1e-6), qPrintable(QString::number(now)));
+    if (c.accepted) {
+        QVERIFY(near(magnified.first().first().toDouble(), c.delta < 0 ? 0.9 : 1.0 / 0.9));
         // Centre zoom with nobody answering centres on 0, clamped to 0 without negative values.
-        QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 0.0);
+        QCOMPARE(qMin(lower(*m_plot, QwtPlot::yLeft), upper(*m_plot, QwtPlot::yLeft)), 0.0);
     }
-}
-
-void tst_Plot::wheelZoomInvertedWithRightAxis_data()
-{
-    QTest::addColumn<double>("rightSpan");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("right span at the fixed limit 20") << 20.0 << false;
-    QTest::newRow("right span above 20") << 25.0 << false;
-    QTest::newRow("right span below 20") << 10.0 << true;
-}
-
-void tst_Plot::wheelZoomInvertedWithRightAxis()
-{
-    QFETCH(double, rightSpan);
-    QFETCH(bool, accepted);
-
-    m_plot->enableRightAxis(true);
-    m_plot->setAxisScale(QwtPlot::yRight, 0.0, rightSpan, 0.0);
-    // Inverted value axis whose span stays well below the maximum Y range.
-    m_plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0, 0.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 0.0);
-    m_plot->replot();
-    QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
-
-    wheel(m_plot->canvas(), QPoint(100, 100), 120);
-
-    QCOMPARE(magnified.count(), accepted ? 1 : 0);
-    QVERIFY(lower(*m_plot, QwtPlot::yLeft) > upper(*m_plot, QwtPlot::yLeft)); // stays inverted
 }
 
 void tst_Plot::centreZoom_data()
@@ -348,42 +289,37 @@ void tst_Plot::centreZoom()
     QFETCH(double, high);
     QFETCH(double, answer);
     QFETCH(bool, negatives);
-    QFETCH(double, expectedLow);
-    QFETCH(double, expectedHigh);
 
     m_plot->setEnableNegativeValues(negatives);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, low, high);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yLeft, low, high);
     connect(m_plot, &Plot::zoomCenterSignalEvent, this, [answer](double &centre) {
         QCOMPARE(centre, 0.0);
         centre = answer;
     });
     m_plot->zoomCenter();
-    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), expectedLow);
-    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), expectedHigh);
+    QTEST(lower(*m_plot, QwtPlot::yLeft), "expectedLow");
+    QTEST(upper(*m_plot, QwtPlot::yLeft), "expectedHigh");
 }
 
 void tst_Plot::centreZoomRightAxis_data()
 {
     QTest::addColumn<double>("rightSpan");
-    QTest::addColumn<bool>("rescaled");
-    QTest::addColumn<double>("expectedStep");
-    QTest::newRow("span 0 counts as 0.15: not rescaled") << 0.0 << false << 0.0;
-    QTest::newRow("span 0.5: step 0.1") << 0.5 << true << 0.1;
-    QTest::newRow("span 10: step 1") << 10.0 << true << 1.0;
-    QTest::newRow("span 40: step 2") << 40.0 << true << 2.0;
+    QTest::addColumn<double>("expectedStep"); // 0: not rescaled
+    QTest::newRow("span 0 counts as 0.15: not rescaled") << 0.0 << 0.0;
+    QTest::newRow("span 0.5: step 0.1") << 0.5 << 0.1;
+    QTest::newRow("span 10: step 1") << 10.0 << 1.0;
+    QTest::newRow("span 40: step 2") << 40.0 << 2.0;
 }
 
 void tst_Plot::centreZoomRightAxis()
 {
     QFETCH(double, rightSpan);
-    QFETCH(bool, rescaled);
     QFETCH(double, expectedStep);
+    const bool rescaled = expectedStep > 0.0;
 
     m_plot->enableRightAxis(true);
     m_plot->setEnableNegativeValues(true);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yRight, 3.0, 3.0 + rightSpan);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yRight, 3.0, 3.0 + rightSpan);
     const double rightLowBefore = lower(*m_plot, QwtPlot::yRight);
     const double rightHighBefore = upper(*m_plot, QwtPlot::yRight);
     QSignalSpy rightAsked(m_plot, SIGNAL(zoomCenterRightSignalEvent(double, int)));
@@ -438,8 +374,7 @@ void tst_Plot::steps()
     // Centre zoom (getStep).
     m_plot->setEnableNegativeValues(true);
     connect(m_plot, &Plot::zoomCenterSignalEvent, this, [span](double &centre) { centre = 100.0 + span / 2; });
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 100.0 + span);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yLeft, 100.0, 100.0 + span);
     QSignalSpy ultraZoomed(m_plot, SIGNAL(plotUltraZoomed()));
     m_plot->zoomCenter();
     QCOMPARE(ultraZoomed.count(), ultra ? 1 : 0);
@@ -448,8 +383,7 @@ void tst_Plot::steps()
     QCOMPARE(bool(dynamic_cast<ExtScaleDraw *>(m_plot->axisScaleDraw(QwtPlot::yLeft))), centreStep <= 0.0005);
 
     // The panner's quieter rule after a real right-button drag.
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 100.0 + span);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yLeft, 100.0, 100.0 + span);
     ultraZoomed.clear();
     const QPoint from(200, 150);
     drag(m_plot->canvas(), Qt::RightButton, from, from + QPoint(0, 6));
@@ -461,32 +395,27 @@ void tst_Plot::steps()
 
 void tst_Plot::rubberBand_data()
 {
-    QTest::addColumn<double>("top");
     QTest::addColumn<double>("height");
-    QTest::addColumn<bool>("zooms");
-    QTest::addColumn<double>("expectedStep"); // 0: automatic
+    QTest::addColumn<double>("expectedStep"); // 0: automatic, < 0: no zoom
 
-    QTest::newRow("height 1.0 ignored") << 100.0 << 1.0 << false << 0.0;
-    QTest::newRow("height 0.5 ignored") << 100.0 << 0.5 << false << 0.0;
-    QTest::newRow("height 1.2: quieter step 0.2") << 100.0 << 1.2 << true << 0.2;
-    QTest::newRow("height 2: step 0.5") << 100.0 << 2.0 << true << 0.5;
-    QTest::newRow("height 50: automatic step") << 100.0 << 50.0 << true << 0.0;
+    QTest::newRow("height 1.0 ignored") << 1.0 << -1.0;
+    QTest::newRow("height 1.2: quieter step 0.2") << 1.2 << 0.2;
+    QTest::newRow("height 2: step 0.5") << 2.0 << 0.5;
+    QTest::newRow("height 50: automatic step") << 50.0 << 0.0;
 }
 
 void tst_Plot::rubberBand()
 {
-    QFETCH(double, top);
     QFETCH(double, height);
-    QFETCH(bool, zooms);
     QFETCH(double, expectedStep);
+    const bool zooms = expectedStep >= 0.0;
 
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 1000.0, 61000.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::xBottom, 1000.0, 61000.0);
     m_plot->setZoomBase();
     QSignalSpy zoomed(m_plot, SIGNAL(plotZoomed(const QRectF &)));
     QSignalSpy changed(m_plot, SIGNAL(changeXSignal(const QRectF &)));
 
-    m_plot->zoomToRect(QRectF(11000.0, top, 20000.0, height));
+    m_plot->zoomToRect(QRectF(11000.0, 100.0, 20000.0, height));
 
     QCOMPARE(zoomed.count(), zooms ? 1 : 0);
     QCOMPARE(changed.count(), zooms ? 1 : 0);
@@ -494,8 +423,8 @@ void tst_Plot::rubberBand()
         QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0);
         return;
     }
-    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), top);
-    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), top + height);
+    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 100.0);
+    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 100.0 + height);
     QCOMPARE(lower(*m_plot, QwtPlot::xBottom), 11000.0);
     QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 31000.0);
     if (expectedStep > 0.0)
@@ -505,17 +434,15 @@ void tst_Plot::rubberBand()
 void tst_Plot::rubberBandRescalesRightAxis()
 {
     m_plot->enableRightAxis(true);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yRight, 0.0, 30.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yRight, 0.0, 30.0);
     m_plot->setZoomBase();
 
     // A real left drag over the canvas: from value 200 down to value 100.
-    const int x = 100;
     const int y200 = int(m_plot->transform(QwtPlot::yLeft, 200.0));
     const int y100 = int(m_plot->transform(QwtPlot::yLeft, 100.0));
     QSignalSpy zoomed(m_plot, SIGNAL(plotZoomed(const QRectF &)));
     QSignalSpy released(m_plot, SIGNAL(zoomRectangle()));
-    drag(m_plot->canvas(), Qt::LeftButton, QPoint(x, y200), QPoint(x + 150, y100));
+    drag(m_plot->canvas(), Qt::LeftButton, QPoint(100, y200), QPoint(250, y100));
     QCOMPARE(zoomed.count(), 1);
     QCOMPARE(released.count(), 1);
     const QRectF rect = zoomed.first().first().toRectF();
@@ -540,27 +467,20 @@ void tst_Plot::zoomKeysOnlyRefreshTicks()
     QFETCH(int, modifiers);
 
     // Put something on the zoom stack first, so that walking it would be visible.
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 60000.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::xBottom, 0.0, 60000.0);
     m_plot->setZoomBase();
     m_plot->zoomToRect(QRectF(10000.0, 50.0, 20000.0, 100.0));
     m_plot->zoomToRect(QRectF(12000.0, 60.0, 10000.0, 50.0));
-    const double xLow = lower(*m_plot, QwtPlot::xBottom);
-    const double xHigh = upper(*m_plot, QwtPlot::xBottom);
-    const double yLow = lower(*m_plot, QwtPlot::yLeft);
-    const double yHigh = upper(*m_plot, QwtPlot::yLeft);
+    const QwtInterval x = m_plot->axisInterval(QwtPlot::xBottom);
+    const QwtInterval y = m_plot->axisInterval(QwtPlot::yLeft);
     QSignalSpy zoomed(m_plot, SIGNAL(plotZoomed(const QRectF &)));
 
     QTest::keyClick(m_plot->canvas(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
 
     QCOMPARE(zoomed.count(), 0);
-    QCOMPARE(lower(*m_plot, QwtPlot::xBottom), xLow);
-    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), xHigh);
-    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), yLow);
-    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), yHigh);
+    QVERIFY(m_plot->axisInterval(QwtPlot::xBottom) == x && m_plot->axisInterval(QwtPlot::yLeft) == y);
     // One major tick per 115 pixels of plot width.
-    const double expected = (xHigh - xLow) / (m_plot->width() / 115);
-    QVERIFY(near(majorStep(*m_plot, QwtPlot::xBottom), expected, 1e-6));
+    QVERIFY(near(majorStep(*m_plot, QwtPlot::xBottom), x.width() / (m_plot->width() / 115), 1e-6));
 }
 
 void tst_Plot::panClamp_data()
@@ -568,14 +488,13 @@ void tst_Plot::panClamp_data()
     QTest::addColumn<int>("maxOffset");
     QTest::addColumn<int>("minOffset");
     QTest::addColumn<int>("dy");
-    QTest::addColumn<double>("expectedHighest"); // < 0: check the lowest instead
-    QTest::addColumn<double>("expectedLowest");
+    QTest::addColumn<double>("limit"); // the highest value upwards, the lowest downwards
 
     // 330 pixels are worth about 140 value units on the test canvas: every drag overshoots.
-    QTest::newRow("up stops at the upper limit") << 0 << 0 << 330 << 300.0 << -1.0;
-    QTest::newRow("up stops at limit + offset") << 40 << 0 << 330 << 340.0 << -1.0;
-    QTest::newRow("down stops at the lower limit") << 0 << 0 << -330 << -1.0 << 0.0;
-    QTest::newRow("down stops at limit - offset") << 0 << 30 << -330 << -1.0 << -30.0;
+    QTest::newRow("up stops at the upper limit") << 0 << 0 << 330 << 300.0;
+    QTest::newRow("up stops at limit + offset") << 40 << 0 << 330 << 340.0;
+    QTest::newRow("down stops at the lower limit") << 0 << 0 << -330 << 0.0;
+    QTest::newRow("down stops at limit - offset") << 0 << 30 << -330 << -30.0;
 }
 
 void tst_Plot::panClamp()
@@ -583,45 +502,35 @@ void tst_Plot::panClamp()
     QFETCH(int, maxOffset);
     QFETCH(int, minOffset);
     QFETCH(int, dy);
-    QFETCH(double, expectedHighest);
-    QFETCH(double, expectedLowest);
+    QFETCH(double, limit);
 
     m_plot->setPanMaxOffset(maxOffset);
     m_plot->setPanMinOffset(minOffset);
     m_plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0, 0.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 250.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yLeft, 100.0, 250.0);
+    const QwtInterval x = m_plot->axisInterval(QwtPlot::xBottom);
     QSignalSpy panned(m_plot, SIGNAL(plotPanned(int, int)));
 
+    // A slanted drag: only its vertical part pans.
     const QPoint from(200, dy > 0 ? 5 : 345);
-    drag(m_plot->canvas(), Qt::RightButton, from, from + QPoint(0, dy));
+    drag(m_plot->canvas(), Qt::RightButton, from, from + QPoint(-60, dy));
 
     QCOMPARE(panned.count(), 1);
     QCOMPARE(panned.first().at(1).toInt(), dy);
-    const double low = lower(*m_plot, QwtPlot::yLeft);
-    const double high = upper(*m_plot, QwtPlot::yLeft);
-    QVERIFY(near(high - low, 150.0, 1e-6));
+    QVERIFY(m_plot->axisInterval(QwtPlot::xBottom) == x);
+    QVERIFY(near(span(*m_plot, QwtPlot::yLeft), 150.0, 1e-6));
     // Pixel steps: within one pixel's worth of value of the limit, never past it.
     const double onePixel = 150.0 / m_plot->canvas()->contentsRect().height() * 1.05;
-    if (expectedHighest >= 0.0) {
-        QVERIFY2(high <= expectedHighest + 1e-9 && high > expectedHighest - onePixel, qPrintable(QString::number(high)));
-    } else {
-        QVERIFY2(low >= expectedLowest - 1e-9 && low < expectedLowest + onePixel, qPrintable(QString::number(low)));
-    }
+    const double past = dy > 0 ? upper(*m_plot, QwtPlot::yLeft) - limit : limit - lower(*m_plot, QwtPlot::yLeft);
+    QVERIFY2(past <= 1e-9 && past > -onePixel, qPrintable(QString::number(past)));
 }
 
 void tst_Plot::disabledToolsIgnoreInput()
 {
     m_plot->setEnabled(false);
     QVERIFY(!m_plot->isPlotEnabled());
-    QVERIFY(!m_plot->poZoomer()->isEnabled());
-    QVERIFY(!m_plot->poPanner()->isEnabled());
-    QVERIFY(!m_plot->poValueMagnifier()->isEnabled());
-    QVERIFY(!m_plot->poTimeMagnifier()->isEnabled());
-
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 100.0, 200.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 1000.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yLeft, 100.0, 200.0);
+    setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
     QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
     wheel(m_plot->canvas(), QPoint(100, 100), -120);
     drag(m_plot->canvas(), Qt::RightButton, QPoint(200, 100), QPoint(200, 150));
@@ -646,31 +555,20 @@ void tst_Plot::zoomToolBar()
     QCOMPARE(m_plot->parentWidget(), bar);
     QCOMPARE(m_plot->embedZoomToolBar(), bar); // built once
     QHBoxLayout *container = m_plot->getPlotContainer();
-    QVERIFY(container);
     QCOMPARE(container->count(), 2);
     QCOMPARE(container->itemAt(1)->widget(), static_cast<QWidget *>(m_plot));
-    QWidget *column = container->itemAt(0)->widget();
-    QCOMPARE(column->height(), 70);
-    QCOMPARE(column->styleSheet(), QStringLiteral("QWidget {border: 0px margin: 0px; padding:0px;}"));
-
+    QLayout *column = container->itemAt(0)->widget()->layout();
     QPushButton *in = m_plot->poZoomInButton();
     QPushButton *reset = m_plot->poResetZoomButton();
     QPushButton *out = m_plot->poZoomOutButton();
-    auto *columnLayout = qobject_cast<QVBoxLayout *>(column->layout());
-    QVERIFY(columnLayout);
-    QCOMPARE(columnLayout->itemAt(0)->widget(), static_cast<QWidget *>(in));
-    QCOMPARE(columnLayout->itemAt(1)->widget(), static_cast<QWidget *>(reset));
-    QCOMPARE(columnLayout->itemAt(2)->widget(), static_cast<QWidget *>(out));
+    QCOMPARE(column->itemAt(0)->widget(), static_cast<QWidget *>(in));
+    QCOMPARE(column->itemAt(1)->widget(), static_cast<QWidget *>(reset));
+    QCOMPARE(column->itemAt(2)->widget(), static_cast<QWidget *>(out));
     QCOMPARE(in->toolTip(), QStringLiteral("Zoom In"));
     QCOMPARE(out->toolTip(), QStringLiteral("Zoom Out"));
     QCOMPARE(reset->toolTip(), QStringLiteral("Reset Zoom"));
-    QCOMPARE(in->size(), QSize(20, 20));
-    QCOMPARE(reset->size(), QSize(20, 10));
-    for (QPushButton *button : {in, reset, out}) {
-        QVERIFY(!button->icon().isNull());
-        QVERIFY(button->text().isEmpty());
-        QCOMPARE(button->cursor().shape(), Qt::PointingHandCursor);
-    }
+    for (QPushButton *button : {in, reset, out})
+        QVERIFY(!button->icon().isNull() && button->text().isEmpty());
 
     QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
     QSignalSpy noise(m_plot, SIGNAL(zommResetForNoiseLine()));
@@ -697,9 +595,8 @@ void tst_Plot::zoomResetRestoresLimits()
     m_plot->enableRightAxis(true);
     m_plot->setAxisScale(QwtPlot::yRight, -10.0, 10.0, 0.0);
     m_plot->setAxisScale(QwtPlot::yLeft, 20.0, 220.0, 0.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 60.0, 80.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yRight, 1.0, 2.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yLeft, 60.0, 80.0);
+    setView(*m_plot, QwtPlot::yRight, 1.0, 2.0);
     QList<double> factors;
     QList<bool> resetFlags;
     connect(m_plot, &Plot::PlotScrollMagnified, this, [&](double factor) {
@@ -722,15 +619,12 @@ void tst_Plot::zoomResetRestoresLimits()
 void tst_Plot::timeAxisButtons()
 {
     m_plot->vSetXAxis(10000.0, 50000.0);
-    QCOMPARE(m_plot->poTimeMagnifier()->getMinXRange(), 10000.0);
-    QCOMPARE(m_plot->poTimeMagnifier()->getMaxXRange(), 50000.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 20000.0, 30000.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::xBottom, 20000.0, 30000.0);
 
     m_plot->zoomPlusXButtonClicked();
-    QVERIFY(near(upper(*m_plot, QwtPlot::xBottom) - lower(*m_plot, QwtPlot::xBottom), 8000.0));
+    QVERIFY(near(span(*m_plot, QwtPlot::xBottom), 8000.0));
     m_plot->zoomMinusXButtonClicked();
-    QVERIFY(near(upper(*m_plot, QwtPlot::xBottom) - lower(*m_plot, QwtPlot::xBottom), 9600.0));
+    QVERIFY(near(span(*m_plot, QwtPlot::xBottom), 9600.0));
     QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0); // the value axis is left alone
 
     m_plot->zoomResetXButtonClicked();
@@ -740,17 +634,15 @@ void tst_Plot::timeAxisButtons()
 
     // A time span at the maximum X range refuses to grow.
     m_plot->vSetXAxis(0.0, 1000.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 1000.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
     m_plot->zoomMinusXButtonClicked();
     QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 1000.0);
 }
 
 void tst_Plot::zoomResetRectangle()
 {
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 1000.0, 5000.0);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 10.0, 110.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::xBottom, 1000.0, 5000.0);
+    setView(*m_plot, QwtPlot::yLeft, 10.0, 110.0);
     QCOMPARE(m_plot->zoomReset(0.0), QRectF());
     QCOMPARE(m_plot->zoomReset(7000.0), QRectF(7000.0, 10.0, 4000.0, 100.0));
     QCOMPARE(lower(*m_plot, QwtPlot::xBottom), 1000.0);
@@ -768,9 +660,7 @@ void tst_Plot::doubleClick()
 {
     QFETCH(bool, independent);
     m_plot->setIndependentPlot(independent);
-    QCOMPARE(m_plot->checkIndependentPlot(), independent);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::yLeft, 50.0, 70.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::yLeft, 50.0, 70.0);
     QSignalSpy noise(m_plot, SIGNAL(zommResetForNoiseLine()));
     QSignalSpy independentClick(m_plot, SIGNAL(IndependentPlotDoubleClick()));
 
@@ -782,58 +672,51 @@ void tst_Plot::doubleClick()
     QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0);
 }
 
-void tst_Plot::leftPressAndRelease()
+void tst_Plot::leftClick_data()
 {
-    QSignalSpy coordinate(m_plot, SIGNAL(getMouseCoordinate(QPoint)));
-    QSignalSpy released(m_plot, SIGNAL(zoomRectangle()));
-    const QPoint pos(150, 90);
-    QTest::mouseClick(m_plot->canvas(), Qt::LeftButton, Qt::NoModifier, pos);
-    QCOMPARE(coordinate.count(), 0); // only independent plots report presses
-    QCOMPARE(released.count(), 1);
-
-    m_plot->setIndependentPlot(true);
-    QTest::mouseClick(m_plot->canvas(), Qt::LeftButton, Qt::NoModifier, pos);
-    QCOMPARE(coordinate.count(), 1);
-    QCOMPARE(coordinate.first().first().toPoint(), m_plot->canvas()->mapToGlobal(pos));
-    QCOMPARE(released.count(), 2);
+    QTest::addColumn<bool>("independent");
+    QTest::addColumn<bool>("underMouse");
+    QTest::newRow("synchronised plot: no coordinate") << false << false;
+    QTest::newRow("independent plot: the global position") << true << false;
+    QTest::newRow("zoom under the mouse: the plot coordinate") << false << true;
 }
 
-void tst_Plot::clickPicker()
+void tst_Plot::leftClick()
 {
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 1000.0);
-    m_plot->replot();
-    m_plot->vSetZoomUnderMouse(true);
+    QFETCH(bool, independent);
+    QFETCH(bool, underMouse);
+    setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
+    m_plot->setIndependentPlot(independent);
+    if (underMouse)
+        m_plot->vSetZoomUnderMouse(true); // every call adds a click picker
     QSignalSpy coordinate(m_plot, SIGNAL(getMouseCoordinate(QPoint)));
+    QSignalSpy released(m_plot, SIGNAL(zoomRectangle()));
     const QPoint pos(200, 100);
+
     QTest::mouseClick(m_plot->canvas(), Qt::LeftButton, Qt::NoModifier, pos);
-    QCOMPARE(coordinate.count(), 1);
-    const QPoint expected(qRound(m_plot->invTransform(QwtPlot::xBottom, pos.x())),
-                          qRound(m_plot->invTransform(QwtPlot::yLeft, pos.y())));
-    QCOMPARE(coordinate.first().first().toPoint(), expected);
+
+    QCOMPARE(released.count(), 1);
+    QCOMPARE(coordinate.count(), independent || underMouse ? 1 : 0);
+    if (independent)
+        QCOMPARE(coordinate.first().first().toPoint(), m_plot->canvas()->mapToGlobal(pos));
+    if (underMouse)
+        QCOMPARE(coordinate.first().first().toPoint(), QPoint(qRound(m_plot->invTransform(QwtPlot::xBottom, pos.x())),
+                                                              qRound(m_plot->invTransform(QwtPlot::yLeft, pos.y()))));
 }
 
 void tst_Plot::axisMenu()
 {
     QSignalSpy changed(m_plot, SIGNAL(axisChanged()));
-    QwtScaleWidget *axis = m_plot->axisWidget(QwtPlot::xBottom);
-    const QPoint onAxis = axis->rect().center();
-
-    MenuDriver first;
-    first.clickWhenShown(QStringLiteral("Date + Time"));
-    QTest::mousePress(axis, Qt::RightButton, Qt::NoModifier, onAxis);
-    QVERIFY(first.done);
+    const MenuSeen first = pickFromAxisMenu(m_plot, QStringLiteral("Date + Time"));
+    QVERIFY(first.shown);
     QCOMPARE(first.offered, (QStringList{QStringLiteral("Time"), QStringLiteral("Date + Time")}));
     QCOMPARE(first.checked, QStringList{QStringLiteral("Time")}); // default 0
     QCOMPARE(changed.count(), 1);
     QCOMPARE(readAxisType(), 1);
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 30000.0);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::xBottom, 0.0, 30000.0);
     QVERIFY(m_plot->poTimeScaleDraw()->label(0.0).text().contains(QStringLiteral(" \r\n")));
 
-    MenuDriver second;
-    second.clickWhenShown(QStringLiteral("Time"));
-    QTest::mousePress(axis, Qt::RightButton, Qt::NoModifier, onAxis);
-    QVERIFY(second.done);
+    const MenuSeen second = pickFromAxisMenu(m_plot, QStringLiteral("Time"));
     QCOMPARE(second.checked, QStringList{QStringLiteral("Date + Time")});
     QCOMPARE(changed.count(), 2);
     QCOMPARE(readAxisType(), 0);
@@ -845,21 +728,15 @@ void tst_Plot::axisMenuElsewhereDoesNothing()
     QSignalSpy changed(m_plot, SIGNAL(axisChanged()));
     // On an independent plot the axis offers no menu; on the left axis neither.
     m_plot->setIndependentPlot(true);
-    QTest::mousePress(m_plot->axisWidget(QwtPlot::xBottom), Qt::RightButton, Qt::NoModifier,
-                      m_plot->axisWidget(QwtPlot::xBottom)->rect().center());
+    rightClick(m_plot->axisWidget(QwtPlot::xBottom));
     m_plot->setIndependentPlot(false);
-    QTest::mousePress(m_plot->axisWidget(QwtPlot::yLeft), Qt::RightButton, Qt::NoModifier,
-                      m_plot->axisWidget(QwtPlot::yLeft)->rect().center());
+    rightClick(m_plot->axisWidget(QwtPlot::yLeft));
     QCOMPARE(QApplication::activePopupWidget(), nullptr);
     QCOMPARE(changed.count(), 0);
     QVERIFY(!QFile::exists(settingsFile()));
 
     // Dismissing the menu writes nothing.
-    MenuDriver dismiss;
-    dismiss.clickWhenShown(QStringLiteral("no such entry"));
-    QTest::mousePress(m_plot->axisWidget(QwtPlot::xBottom), Qt::RightButton, Qt::NoModifier,
-                      m_plot->axisWidget(QwtPlot::xBottom)->rect().center());
-    QVERIFY(dismiss.done);
+    QVERIFY(pickFromAxisMenu(m_plot, QStringLiteral("no such entry")).shown);
     QCOMPARE(changed.count(), 0);
     QCOMPARE(readAxisType(), -1);
 }
@@ -872,7 +749,6 @@ void tst_Plot::timeLabels_data()
 
     QTest::newRow("59 999 ms: seconds") << 0 << 59999.0 << QStringLiteral("hh:mm:ss");
     QTest::newRow("60 000 ms: minutes") << 0 << 60000.0 << QStringLiteral("hh:mm");
-    QTest::newRow("one hour") << 0 << 3.6e6 << QStringLiteral("hh:mm");
     QTest::newRow("just under a day") << 0 << 8.64e7 - 1.0 << QStringLiteral("hh:mm");
     QTest::newRow("one day: date") << 0 << 8.64e7 << QStringLiteral("dd.MM.yyyy");
     QTest::newRow("date mode, 59 999 ms") << 1 << 59999.0 << QStringLiteral("dd.MM.yyyy \r\nhh:mm:ss");
@@ -888,8 +764,7 @@ void tst_Plot::timeLabels()
 
     writeAxisType(axisType);
     const double start = 1700000000123.9; // fractions of a millisecond are truncated
-    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, start, start + span);
-    m_plot->replot();
+    setView(*m_plot, QwtPlot::xBottom, start, start + span);
     const QString label = m_plot->poTimeScaleDraw()->label(start).text();
     QCOMPARE(label, QDateTime::fromMSecsSinceEpoch(1700000000123).toString(format));
 }
@@ -898,7 +773,6 @@ void tst_Plot::displayValueLabels()
 {
     m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, 0.0, 2000.0);
     m_plot->enableXAxisDisplayValue(true);
-    QVERIFY(m_plot->poTimeScaleDraw()->displayValue());
     QCOMPARE(m_plot->poTimeScaleDraw()->label(1234.5678).text(), QStringLiteral("1234.57"));
     QCOMPARE(m_plot->poTimeScaleDraw()->label(1.5e12).text(), QStringLiteral("1.5e+12"));
     m_plot->enableXAxisDisplayValue(false);
@@ -917,37 +791,20 @@ void tst_Plot::trackerText()
     QCOMPARE(text.backgroundBrush().color(), QColor(255, 255, 255, 200));
 }
 
-void tst_Plot::languageChange()
-{
-    m_plot->embedZoomToolBar();
-    m_plot->poZoomInButton()->setToolTip(QStringLiteral("x"));
-    m_plot->poZoomOutButton()->setToolTip(QStringLiteral("y"));
-    m_plot->poResetZoomButton()->setToolTip(QStringLiteral("z"));
-    QEvent change(QEvent::LanguageChange);
-    QApplication::sendEvent(m_plot, &change);
-    QCOMPARE(m_plot->poZoomInButton()->toolTip(), QStringLiteral("Zoom In"));
-    QCOMPARE(m_plot->poZoomOutButton()->toolTip(), QStringLiteral("Zoom Out"));
-    QCOMPARE(m_plot->poResetZoomButton()->toolTip(), QStringLiteral("z")); // deliberately not retranslated
-}
-
 void tst_Plot::germanTranslation()
 {
     QWidget *bar = m_plot->embedZoomToolBar();
     m_host->layout()->addWidget(bar); // where the plot was
     bar->show();
-    QVERIFY(m_plot->isVisible());
     QTranslator german;
-    if (!german.load(QStringLiteral(":/translations/utils_de.qm")))
-        QSKIP("the library carries no German catalogue");
+    QVERIFY(german.load(QStringLiteral(":/translations/utils_de.qm")));
     QCoreApplication::installTranslator(&german);
+    // The language change retranslates the zoom tooltips but deliberately not the reset one.
     QTRY_COMPARE(m_plot->poZoomInButton()->toolTip(), QStringLiteral("Vergr\u00F6\u00DFern"));
     QCOMPARE(m_plot->poZoomOutButton()->toolTip(), QStringLiteral("Verkleinern"));
-    QCOMPARE(m_plot->poResetZoomButton()->toolTip(), QStringLiteral("Reset Zoom")); // kept from construction
+    QCOMPARE(m_plot->poResetZoomButton()->toolTip(), QStringLiteral("Reset Zoom"));
 
-    MenuDriver menu;
-    menu.clickWhenShown(QStringLiteral("Datum + Zeit"));
-    QTest::mousePress(m_plot->axisWidget(QwtPlot::xBottom), Qt::RightButton, Qt::NoModifier,
-                      m_plot->axisWidget(QwtPlot::xBottom)->rect().center());
+    const MenuSeen menu = pickFromAxisMenu(m_plot, QStringLiteral("Datum + Zeit"));
     QCoreApplication::removeTranslator(&german);
     QCOMPARE(menu.offered, (QStringList{QStringLiteral("Zeit"), QStringLiteral("Datum + Zeit")}));
     QCOMPARE(readAxisType(), 1);
