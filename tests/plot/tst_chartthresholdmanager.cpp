@@ -6,9 +6,6 @@
 #include <plot/plot.h>
 #include <plot/plotmarker.h>
 
-#include <QSignalSpy>
-#include <QVBoxLayout>
-
 #include <memory>
 #include <string>
 #include <utility>
@@ -28,18 +25,15 @@ private Q_SLOTS:
     void cleanup();
 
     void addAndFind();
-    void setItemValueEmitsNothing();
     void dragEndEmitsBothForms();
     void removeItem();
     void setItemRange();
     void replacedNameKeepsBothItems();
-    void chartThresholdWidget();
     void managerOutlivesPlot();
 
 private:
     //! Records both itemChanged forms in emission order.
     void record(ChartThresholdManager &manager);
-    void dragDown(PlotMarker *marker, int pixels);
 
     std::unique_ptr<QWidget> m_host;
     Utils::Plot *m_plot = nullptr;
@@ -49,14 +43,7 @@ private:
 
 void tst_ChartThresholdManager::init()
 {
-    m_host.reset(new QWidget);
-    auto *layout = new QVBoxLayout(m_host.get());
-    m_plot = new Utils::Plot(m_host.get());
-    layout->addWidget(m_plot);
-    m_host->resize(600, 400);
-    m_host->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_host.get()));
-    m_plot->replot();
+    m_plot = showPlot(m_host);
     m_byItem.clear();
     m_byName.clear();
 }
@@ -78,22 +65,16 @@ void tst_ChartThresholdManager::record(ChartThresholdManager &manager)
             });
 }
 
-void tst_ChartThresholdManager::dragDown(PlotMarker *marker, int pixels)
+//! A user drag of \a marker by \a pixels downwards.
+static void dragDown(PlotMarker *marker, int pixels)
 {
     const QPoint grip(20, marker->height() / 2);
-    QTest::mousePress(marker, Qt::LeftButton, Qt::NoModifier, grip);
-    for (int step = 1; step <= 3; ++step)
-        dragMove(marker, grip + QPoint(0, pixels * step / 3), Qt::LeftButton);
-    QTest::mouseRelease(marker, Qt::LeftButton, Qt::NoModifier, grip + QPoint(0, pixels));
+    drag(marker, Qt::LeftButton, grip, grip + QPoint(0, pixels));
 }
 
 void tst_ChartThresholdManager::addAndFind()
 {
     ChartThresholdManager manager(m_plot);
-    QVERIFY(manager.allowOverlapping());
-    manager.setAllowOverlapping(false);
-    QVERIFY(!manager.allowOverlapping());
-
     const int childrenBefore = m_plot->canvas()->findChildren<PlotMarker *>().size();
     QCOMPARE(manager.addItem(""), nullptr);
     QCOMPARE(m_plot->canvas()->findChildren<PlotMarker *>().size(), childrenBefore);
@@ -113,17 +94,6 @@ void tst_ChartThresholdManager::addAndFind()
     QCOMPARE(item->value(), 120.0);
 }
 
-void tst_ChartThresholdManager::setItemValueEmitsNothing()
-{
-    ChartThresholdManager manager(m_plot);
-    record(manager);
-    manager.addItem("a");
-    manager.setItemValue("a", 80.0);
-    manager.setItemValue("a", 90.0);
-    QVERIFY(m_byItem.empty());
-    QVERIFY(m_byName.empty());
-}
-
 void tst_ChartThresholdManager::dragEndEmitsBothForms()
 {
     ChartThresholdManager manager(m_plot);
@@ -137,7 +107,7 @@ void tst_ChartThresholdManager::dragEndEmitsBothForms()
     QTest::mousePress(marker, Qt::LeftButton, Qt::NoModifier, grip);
     dragMove(marker, grip + QPoint(0, 10), Qt::LeftButton);
     dragMove(marker, grip + QPoint(0, 20), Qt::LeftButton);
-    QVERIFY(m_byItem.empty()); // nothing while the drag is under way
+    QVERIFY(m_byItem.empty()); // nothing from setItemValue, nor while the drag is under way
     QTest::mouseRelease(marker, Qt::LeftButton, Qt::NoModifier, grip + QPoint(0, 20));
 
     QCOMPARE(m_byItem.size(), size_t(1));
@@ -201,25 +171,6 @@ void tst_ChartThresholdManager::replacedNameKeepsBothItems()
     QPointer<PlotMarker> a(first), b(second);
     manager.reset();
     QVERIFY(a.isNull() && b.isNull());
-}
-
-void tst_ChartThresholdManager::chartThresholdWidget()
-{
-    // The widget form of a chart item: a plot child that subclasses give a value.
-    struct Line : public Utils::ChartThreshold
-    {
-        using ChartThreshold::ChartThreshold;
-        double v = 0.0;
-        void setValue(const double &value) override { v = value; }
-        void setValueText(const std::string &text) override { v = std::stod(text); }
-        double value() const override { return v; }
-        std::string valueText() const override { return std::to_string(v); }
-    };
-    Line line(m_plot);
-    QCOMPARE(line.parentWidget(), static_cast<QWidget *>(m_plot));
-    line.setValueText("2.5");
-    QCOMPARE(line.value(), 2.5);
-    QCOMPARE(line.name(), std::string());
 }
 
 void tst_ChartThresholdManager::managerOutlivesPlot()
