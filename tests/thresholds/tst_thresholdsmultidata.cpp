@@ -17,20 +17,14 @@ struct CountingObserver : Utils::Observer
     void update(void *) override { ++calls; }
 };
 
-using ColourSetter = void (ThresholdsMultiDataColor::*)(int, const double &);
-using ColourGetter = double (ThresholdsMultiDataColor::*)(int) const;
-
 } // namespace
-
-Q_DECLARE_METATYPE(ColourSetter)
-Q_DECLARE_METATYPE(ColourGetter)
 
 class tst_ThresholdsMultiData : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void settersAndGetters();
+    void storedUnchanged();
     void invalidIndexes_data();
     void invalidIndexes();
     void toHexString_data();
@@ -38,37 +32,32 @@ private Q_SLOTS:
     void setFromValues_data();
     void setFromValues();
     void copiesShareValues();
-    void colourFields_data();
     void colourFields();
-    void colourInvalidIndexesAndCopies();
+    void colourInvalidIndexes();
 };
 
-void tst_ThresholdsMultiData::settersAndGetters()
+void tst_ThresholdsMultiData::storedUnchanged()
 {
     ThresholdsMultiData data(3);
     CountingObserver observer;
     data.attach(&observer);
-
     data.setLow(1, -2.5);
     data.setHigh(1, 700.25);
     data.setMiddle(1, 5.0);
     data.setMiddle1(1, 6.0);
     data.setNoise(1, -4);
     QCOMPARE(observer.calls, 5);
-    // Stored as given: no clamping, negative noise allowed.
     QCOMPARE(data.low(1), -2.5);
     QCOMPARE(data.high(1), 700.25);
     QCOMPARE(data.midle(1), 5.0);
     QCOMPARE(data.midle1(1), 6.0);
     QCOMPARE(data.noise(1), -4);
-    QCOMPARE(data.low(0), 0.0);
-    QCOMPARE(data.midle(2), 0.0);
 
+    // Constant and window flag are stored without notification.
     data.setThresholdConstant(1, 7);
     data.setHasWindow(1, true);
     QCOMPARE(observer.calls, 5);
-    QVERIFY(data.hasWindow(1));
-    QVERIFY(!data.hasWindow(0));
+    QVERIFY(data.hasWindow(1) && !data.hasWindow(0));
 }
 
 void tst_ThresholdsMultiData::invalidIndexes_data()
@@ -76,7 +65,6 @@ void tst_ThresholdsMultiData::invalidIndexes_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("index");
     QTest::newRow("index equal to count") << 2 << 2;
-    QTest::newRow("far above") << 2 << 1000000;
     QTest::newRow("negative") << 2 << -1;
     QTest::newRow("most negative") << 2 << std::numeric_limits<int>::min();
     QTest::newRow("empty list") << 0 << 0;
@@ -90,7 +78,6 @@ void tst_ThresholdsMultiData::invalidIndexes()
     ThresholdsMultiData data(count);
     CountingObserver observer;
     data.attach(&observer);
-
     data.setLow(index, 1.0);
     data.setHigh(index, 1.0);
     data.setMiddle(index, 1.0);
@@ -100,7 +87,6 @@ void tst_ThresholdsMultiData::invalidIndexes()
     data.setHasWindow(index, true);
     data.setFromValues(index, 1, 2, 3, 4);
     QCOMPARE(observer.calls, 0);
-
     QCOMPARE(data.low(index), -1.0);
     QCOMPARE(data.high(index), -1.0);
     QCOMPARE(data.midle(index), -1.0);
@@ -109,7 +95,7 @@ void tst_ThresholdsMultiData::invalidIndexes()
     QCOMPARE(data.hasWindow(index), false);
     QCOMPARE(data.toHexString(index), std::string());
     for (int i = 0; i < count; ++i)
-        QCOMPARE(data.low(i), 0.0);
+        QCOMPARE(data.toHexString(i), std::string("0000000000000000"));
 }
 
 void tst_ThresholdsMultiData::toHexString_data()
@@ -199,59 +185,51 @@ void tst_ThresholdsMultiData::copiesShareValues()
 
     ThresholdsMultiData assigned(5);
     assigned = copy;
-    source->setMiddle1(0, 3.0);
-    QCOMPARE(assigned.midle1(0), 3.0);
     QCOMPARE(assigned.toHexString(2), std::string()); // now two entries, like its source
-
     source.reset();
+    assigned.setMiddle1(0, 3.0);
+    QCOMPARE(copy.midle1(0), 3.0);
     QCOMPARE(copy.high(1), 99.0);
-    QCOMPARE(assigned.midle1(0), 3.0);
-}
 
-void tst_ThresholdsMultiData::colourFields_data()
-{
-    QTest::addColumn<ColourSetter>("setter");
-    QTest::addColumn<ColourGetter>("getter");
-
-    using C = ThresholdsMultiDataColor;
-    QTest::newRow("red") << ColourSetter(&C::setColorRed) << ColourGetter(&C::red);
-    QTest::newRow("green") << ColourSetter(&C::setColorGreen) << ColourGetter(&C::green);
-    QTest::newRow("blue") << ColourSetter(&C::setColorBlue) << ColourGetter(&C::blue);
-    QTest::newRow("light") << ColourSetter(&C::setColorLight) << ColourGetter(&C::light);
-    QTest::newRow("redHigh") << ColourSetter(&C::setColorRedHigh) << ColourGetter(&C::redHigh);
-    QTest::newRow("redLow") << ColourSetter(&C::setColorRedLow) << ColourGetter(&C::redLow);
-    QTest::newRow("greenHigh") << ColourSetter(&C::setColorGreenHigh) << ColourGetter(&C::greenHigh);
-    QTest::newRow("greenLow") << ColourSetter(&C::setColorGreenLow) << ColourGetter(&C::greenLow);
-    QTest::newRow("blueHigh") << ColourSetter(&C::setColorBlueHigh) << ColourGetter(&C::blueHigh);
-    QTest::newRow("blueLow") << ColourSetter(&C::setColorBlueLow) << ColourGetter(&C::blueLow);
-    QTest::newRow("lightHigh") << ColourSetter(&C::setColorLightHigh) << ColourGetter(&C::lightHigh);
-    QTest::newRow("lightLow") << ColourSetter(&C::setColorLightLow) << ColourGetter(&C::lightLow);
+    ThresholdsMultiDataColor colour(1);
+    ThresholdsMultiDataColor colourCopy(colour);
+    colourCopy.setColorGreenHigh(0, 4.0);
+    colourCopy.setHasWindow(0, true);
+    QCOMPARE(colour.greenHigh(0), 4.0);
+    QVERIFY(colour.hasWindow(0));
 }
 
 void tst_ThresholdsMultiData::colourFields()
 {
-    QFETCH(ColourSetter, setter);
-    QFETCH(ColourGetter, getter);
-    const ColourGetter all[] = {
-        &ThresholdsMultiDataColor::red,      &ThresholdsMultiDataColor::green,     &ThresholdsMultiDataColor::blue,
-        &ThresholdsMultiDataColor::light,    &ThresholdsMultiDataColor::redHigh,   &ThresholdsMultiDataColor::redLow,
-        &ThresholdsMultiDataColor::greenHigh, &ThresholdsMultiDataColor::greenLow, &ThresholdsMultiDataColor::blueHigh,
-        &ThresholdsMultiDataColor::blueLow,  &ThresholdsMultiDataColor::lightHigh, &ThresholdsMultiDataColor::lightLow,
+    using C = ThresholdsMultiDataColor;
+    const std::pair<void (C::*)(int, const double &), double (C::*)(int) const> fields[] = {
+        {&C::setColorRed, &C::red},           {&C::setColorGreen, &C::green},
+        {&C::setColorBlue, &C::blue},         {&C::setColorLight, &C::light},
+        {&C::setColorRedHigh, &C::redHigh},   {&C::setColorRedLow, &C::redLow},
+        {&C::setColorGreenHigh, &C::greenHigh}, {&C::setColorGreenLow, &C::greenLow},
+        {&C::setColorBlueHigh, &C::blueHigh}, {&C::setColorBlueLow, &C::blueLow},
+        {&C::setColorLightHigh, &C::lightHigh}, {&C::setColorLightLow, &C::lightLow},
     };
-
     ThresholdsMultiDataColor data(2);
     CountingObserver observer;
     data.attach(&observer);
-    (data.*setter)(1, 123.5);
-    QCOMPARE(observer.calls, 1);
-    // Exactly this field of exactly this entry changed.
-    for (ColourGetter other : all) {
-        QCOMPARE((data.*other)(0), 0.0);
-        QCOMPARE((data.*other)(1), other == getter ? 123.5 : 0.0);
+    // A distinct value per field catches a setter or getter wired to the wrong one.
+    for (std::size_t i = 0; i < std::size(fields); ++i)
+        (data.*fields[i].first)(1, 10.5 + double(i));
+    data.setNoise(1, -7);
+    QCOMPARE(observer.calls, 13);
+    for (std::size_t i = 0; i < std::size(fields); ++i) {
+        QCOMPARE((data.*fields[i].second)(0), 0.0);
+        QCOMPARE((data.*fields[i].second)(1), 10.5 + double(i));
     }
+    QCOMPARE(data.noise(1), -7);
+    data.setThresholdConstant(1, 5);
+    data.setHasWindow(1, true);
+    QCOMPARE(observer.calls, 13);
+    QVERIFY(data.hasWindow(1) && !data.hasWindow(0));
 }
 
-void tst_ThresholdsMultiData::colourInvalidIndexesAndCopies()
+void tst_ThresholdsMultiData::colourInvalidIndexes()
 {
     ThresholdsMultiDataColor data(1);
     CountingObserver observer;
@@ -268,18 +246,7 @@ void tst_ThresholdsMultiData::colourInvalidIndexesAndCopies()
         QVERIFY(!data.hasWindow(index));
     }
     QCOMPARE(observer.calls, 0);
-
-    data.setNoise(0, -7);
-    data.setThresholdConstant(0, 5);
-    data.setHasWindow(0, true);
-    QCOMPARE(observer.calls, 1);
-    QCOMPARE(data.noise(0), -7);
-
-    ThresholdsMultiDataColor copy(data);
-    copy.setColorGreenHigh(0, 4.0);
-    QCOMPARE(data.greenHigh(0), 4.0);
-    QVERIFY(copy.hasWindow(0));
-    QCOMPARE(observer.calls, 1);
+    QCOMPARE(data.red(0), 0.0);
 }
 
 QTEST_GUILESS_MAIN(tst_ThresholdsMultiData)

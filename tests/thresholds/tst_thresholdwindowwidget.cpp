@@ -19,21 +19,15 @@ using Utils::ThresholdWindowWidget;
 
 namespace {
 
-// A plot as a chart shows it: values 0..100 on yLeft.
-std::unique_ptr<Utils::Plot> makePlot()
-{
-    auto plot = std::make_unique<Utils::Plot>();
-    plot->setAxisScale(QwtPlot::yLeft, 0.0, 100.0);
-    plot->resize(500, 400);
-    plot->show();
-    plot->replot();
-    return plot;
-}
-
 // Value span of one canvas pixel row.
 double unitsPerPixel(const QwtPlot &plot)
 {
     return std::abs(plot.invTransform(QwtPlot::yLeft, 0) - plot.invTransform(QwtPlot::yLeft, 1));
+}
+
+int row(const QwtPlot &plot, double value)
+{
+    return int(plot.transform(QwtPlot::yLeft, value));
 }
 
 /*
@@ -54,18 +48,17 @@ void drag(PlotMarker *mark, int targetTop)
                          Qt::NoModifier);
         QApplication::sendEvent(mark, &move);
     }
-    QTest::mouseRelease(mark, Qt::LeftButton, Qt::NoModifier, QPoint(grip.x(), grip.y()));
+    QTest::mouseRelease(mark, Qt::LeftButton, Qt::NoModifier, grip);
 }
 
-// Share of non-white pixels in a canvas row of the grabbed image.
-double shadedShare(const QImage &image, int row)
+// 1 when a canvas row of the grabbed image is shaded across, 0 when it is white.
+int shaded(const QImage &image, int row)
 {
-    int shaded = 0;
-    for (int x = 0; x < image.width(); ++x) {
-        if (image.pixelColor(x, row).lightness() < 245)
-            ++shaded;
-    }
-    return double(shaded) / image.width();
+    int count = 0;
+    for (int x = 0; x < image.width(); ++x)
+        count += image.pixelColor(x, row).lightness() < 245;
+    const double share = double(count) / image.width();
+    return share > 0.95 ? 1 : share < 0.2 ? 0 : -1;
 }
 
 } // namespace
@@ -74,21 +67,29 @@ class tst_ThresholdWindowWidget : public QObject
 {
     Q_OBJECT
 
+    // Each test starts with a plot as a chart shows it (0..100 on yLeft) and a window on it.
+    std::unique_ptr<Utils::Plot> plot;
+    std::unique_ptr<ThresholdWindowWidget> window;
+    PlotMarker *upperMark() const { return window->poUpperMark(); }
+    PlotMarker *lowerMark() const { return window->poLowerMark(); }
+
 private Q_SLOTS:
+    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false")); }
     void init();
+    void cleanup();
     void construction();
     void keepMarksApart_data();
     void keepMarksApart();
-    void dragUpperStopsAboveLower();
-    void dragLowerStopsBelowUpper();
+    void dragStopsAtTheOtherMark_data();
+    void dragStopsAtTheOtherMark();
     void dragAcrossWithOverlapping();
     void programmaticMovesAreReported();
     void setNoise_data();
     void setNoise();
     void noiseOrientation_data();
     void noiseOrientation();
-    void zonesNormalWindow();
-    void zonesCrossedMarks();
+    void zones_data();
+    void zones();
     void zonesParkedAndOffline();
     void followsWheelZoomAndScale();
     void genericRangeAndReadOnly();
@@ -98,29 +99,29 @@ private Q_SLOTS:
 
 void tst_ThresholdWindowWidget::init()
 {
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
+    plot = std::make_unique<Utils::Plot>();
+    plot->setAxisScale(QwtPlot::yLeft, 0.0, 100.0);
+    plot->resize(500, 400);
+    plot->show();
+    plot->replot();
+    window = std::make_unique<ThresholdWindowWidget>(plot.get(), 0);
+}
+
+void tst_ThresholdWindowWidget::cleanup()
+{
+    window.reset();
+    plot.reset();
 }
 
 void tst_ThresholdWindowWidget::construction()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 4);
-    QCOMPARE(window.getComponentIndex(), 4);
-    PlotMarker *upper = window.poUpperMark();
-    PlotMarker *lower = window.poLowerMark();
-    QVERIFY(upper && lower && upper != lower);
-    QCOMPARE(upper->parentWidget(), plot->canvas());
-    QVERIFY(upper->bMovable() && lower->bMovable());
-    QCOMPARE(upper->cursor().shape(), Qt::SizeVerCursor);
-    // Lower mark's side flag set (band below), upper's cleared (band above).
-    QCOMPARE(lower->noiseOrientation(), PlotMarker::OrientationBandBelow);
-    QCOMPARE(upper->noiseOrientation(), PlotMarker::OrientationBandAbove);
-    QCOMPARE(upper->lower(), 1.0);
-    QCOMPARE(upper->upper(), 100.0);
-    QCOMPARE(lower->lower(), 0.0);
-    QCOMPARE(lower->upper(), 100.0);
-    QVERIFY(!window.poUpperZone()->isVisible());
-    QVERIFY(!window.poLowerZone()->isVisible());
+    QCOMPARE(upperMark()->cursor().shape(), Qt::SizeVerCursor);
+    QCOMPARE(lowerMark()->noiseOrientation(), PlotMarker::OrientationBandBelow);
+    QCOMPARE(upperMark()->noiseOrientation(), PlotMarker::OrientationBandAbove);
+    // The upper mark may go from minDifference above the scale's bottom to its top.
+    QCOMPARE(upperMark()->lower(), 1.0);
+    QCOMPARE(upperMark()->upper(), 100.0);
+    QVERIFY(!window->poUpperZone()->isVisible() && !window->poLowerZone()->isVisible());
 }
 
 void tst_ThresholdWindowWidget::keepMarksApart_data()
@@ -141,101 +142,78 @@ void tst_ThresholdWindowWidget::keepMarksApart()
     QFETCH(double, upperFloor);
     QFETCH(double, lowerCeiling);
 
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.setMinDifference(minDifference);
-    window.allowOverlapping(overlapping);
-    window.setLowerMark(40);
-    window.setUpperMark(60);
-    QCOMPARE(window.poUpperMark()->lower(), upperFloor);
-    QCOMPARE(window.poLowerMark()->upper(), lowerCeiling);
-    QCOMPARE(window.poUpperMark()->value(), 60.0);
-    QCOMPARE(window.poLowerMark()->value(), 40.0);
+    window->setMinDifference(minDifference);
+    window->allowOverlapping(overlapping);
+    window->setLowerMark(40);
+    window->setUpperMark(60);
+    QCOMPARE(upperMark()->lower(), upperFloor);
+    QCOMPARE(lowerMark()->upper(), lowerCeiling);
+    QCOMPARE(upperMark()->value() - lowerMark()->value(), 20.0);
 }
 
-void tst_ThresholdWindowWidget::dragUpperStopsAboveLower()
+void tst_ThresholdWindowWidget::dragStopsAtTheOtherMark_data()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.setLowerMark(40);
-    window.setUpperMark(60);
-    QSignalSpy spy(&window, &ThresholdWindowWidget::emitValueChanged);
-    QVERIFY(spy.isValid());
-
-    // Far below the lower mark: the drag stops half a unit above it.
-    drag(window.poUpperMark(), plot->canvas()->height() - 10);
-    const double value = window.poUpperMark()->value();
-    QVERIFY2(value >= 40.5 && value <= 40.5 + unitsPerPixel(*plot), qPrintable(QString::number(value)));
-    QCOMPARE(window.poLowerMark()->value(), 40.0);
-
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0).at(0).toUInt(), 1u);
-    QCOMPARE(spy.at(0).at(1).toDouble(), value);
-    // The lower mark's ceiling followed the new upper value.
-    QCOMPARE(window.poLowerMark()->upper(), value - 0.5);
+    QTest::addColumn<uint>("mark");
+    QTest::addColumn<double>("towards");
+    QTest::addColumn<double>("stop");
+    QTest::newRow("upper dragged far down stops half a unit above the lower") << 1u << 2.0 << 40.5;
+    QTest::newRow("lower dragged far up stops half a unit below the upper") << 0u << 98.0 << 59.5;
 }
 
-void tst_ThresholdWindowWidget::dragLowerStopsBelowUpper()
+void tst_ThresholdWindowWidget::dragStopsAtTheOtherMark()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.setLowerMark(40);
-    window.setUpperMark(60);
-    QSignalSpy spy(&window, &ThresholdWindowWidget::emitValueChanged);
+    QFETCH(uint, mark);
+    QFETCH(double, towards);
+    QFETCH(double, stop);
 
-    drag(window.poLowerMark(), 5);
-    const double value = window.poLowerMark()->value();
-    QVERIFY2(value <= 59.5 && value >= 59.5 - 2 * unitsPerPixel(*plot), qPrintable(QString::number(value)));
+    window->setLowerMark(40);
+    window->setUpperMark(60);
+    QSignalSpy spy(window.get(), &ThresholdWindowWidget::emitValueChanged);
+    PlotMarker *moved = mark ? upperMark() : lowerMark();
+    PlotMarker *other = mark ? lowerMark() : upperMark();
+    drag(moved, row(*plot, towards));
+    const double value = moved->value();
+    const bool beyondStop = mark ? value < stop : value > stop;
+    QVERIFY2(!beyondStop && std::abs(value - stop) <= 2 * unitsPerPixel(*plot), qPrintable(QString::number(value)));
+    QCOMPARE(other->value(), mark ? 40.0 : 60.0);
     QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0).at(0).toUInt(), 0u);
-    QCOMPARE(spy.at(0).at(1).toDouble(), value);
-
-    // A small drag inside the window moves it freely.
-    const int target = int(plot->transform(QwtPlot::yLeft, 20.0));
-    drag(window.poLowerMark(), target);
-    QVERIFY(std::abs(window.poLowerMark()->value() - 20.0) <= 2 * unitsPerPixel(*plot));
-    QCOMPARE(spy.count(), 2);
+    QCOMPARE(spy.at(0), (QList<QVariant>{mark, value}));
+    // The other mark's limit followed the new value.
+    QCOMPARE(mark ? other->upper() : other->lower(), mark ? value - 0.5 : value + 0.5);
 }
 
 void tst_ThresholdWindowWidget::dragAcrossWithOverlapping()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.setBothWindowZoneVisible(true);
-    window.allowOverlapping(true);
-    window.setLowerMark(40);
-    window.setUpperMark(60);
+    window->setBothWindowZoneVisible(true);
+    window->allowOverlapping(true);
+    window->setLowerMark(40);
+    window->setUpperMark(60);
 
-    drag(window.poUpperMark(), int(plot->transform(QwtPlot::yLeft, 25.0)));
-    const double upper = window.poUpperMark()->value();
+    drag(upperMark(), row(*plot, 25.0));
+    const double upper = upperMark()->value();
     QVERIFY2(upper < 30.0, qPrintable(QString::number(upper)));
     // Crossed: the band sides swap, and the band between the marks is shaded.
-    QCOMPARE(window.poUpperMark()->noiseOrientation(), PlotMarker::OrientationBandBelow);
-    QCOMPARE(window.poLowerMark()->noiseOrientation(), PlotMarker::OrientationBandAbove);
-    QVERIFY(window.poUpperZone()->isVisible());
-    QVERIFY(!window.poLowerZone()->isVisible());
+    QCOMPARE(upperMark()->noiseOrientation(), PlotMarker::OrientationBandBelow);
+    QCOMPARE(lowerMark()->noiseOrientation(), PlotMarker::OrientationBandAbove);
+    QVERIFY(window->poUpperZone()->isVisible() && !window->poLowerZone()->isVisible());
     const double tolerance = 2 * unitsPerPixel(*plot);
-    QVERIFY(std::abs(window.poUpperZone()->lowerValue() - upper) <= tolerance);
-    QVERIFY(std::abs(window.poUpperZone()->upperValue() - 40.0) <= tolerance);
+    QVERIFY(std::abs(window->poUpperZone()->lowerValue() - upper) <= tolerance);
+    QVERIFY(std::abs(window->poUpperZone()->upperValue() - 40.0) <= tolerance);
 }
 
 void tst_ThresholdWindowWidget::programmaticMovesAreReported()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    QSignalSpy spy(&window, &ThresholdWindowWidget::emitValueChanged);
-    window.setLowerMark(10);
-    window.setUpperMark(90);
-    window.setUpperMark(90); // no move, no report
+    QSignalSpy spy(window.get(), &ThresholdWindowWidget::emitValueChanged);
+    window->setLowerMark(10);
+    window->setUpperMark(90);
+    window->setUpperMark(90); // no move, no report
+    // Only the two marks are reported; a null or foreign subject is not.
+    Utils::Observable stranger;
+    window->update(nullptr);
+    window->update(&stranger);
     QCOMPARE(spy.count(), 2);
     QCOMPARE(spy.at(0), (QList<QVariant>{0u, 10.0}));
     QCOMPARE(spy.at(1), (QList<QVariant>{1u, 90.0}));
-
-    // Only the two marks are reported; a null or foreign subject is not.
-    Utils::Observable stranger;
-    window.update(nullptr);
-    window.update(&stranger);
-    QCOMPARE(spy.count(), 2);
 }
 
 void tst_ThresholdWindowWidget::setNoise_data()
@@ -256,26 +234,24 @@ void tst_ThresholdWindowWidget::setNoise()
     QFETCH(uint, lowerThickness);
     QFETCH(uint, upperThickness);
 
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.setLowerMark(30);
-    window.setUpperMark(70);
-    window.setNoise(lowerNoise, upperNoise);
-    QCOMPARE(window.poLowerMark()->thickness(), lowerThickness);
-    QCOMPARE(window.poUpperMark()->thickness(), upperThickness);
+    window->setLowerMark(30);
+    window->setUpperMark(70);
+    window->setNoise(lowerNoise, upperNoise);
+    QCOMPARE(lowerMark()->thickness(), lowerThickness);
+    QCOMPARE(upperMark()->thickness(), upperThickness);
     // The band is drawn as the marker's height: thickness in pixels plus the line.
-    const int expected = int(plot->transform(QwtPlot::yLeft, 0.0) - plot->transform(QwtPlot::yLeft, upperThickness)) + 4;
-    QCOMPARE(window.poUpperMark()->height(), expected);
+    const double bandPixels = plot->transform(QwtPlot::yLeft, 0.0) - plot->transform(QwtPlot::yLeft, upperThickness);
+    QCOMPARE(upperMark()->height(), int(bandPixels) + 4);
 
     // A zoom reset gives the bands of setNoise() back only with keepNoiseWidth.
-    window.poUpperMark()->setThickness(upperThickness + 9);
+    upperMark()->setThickness(upperThickness + 9);
     Q_EMIT plot->PlotScrollMagnified(0.0);
-    QCOMPARE(window.poUpperMark()->thickness(), upperThickness + 9);
-    window.setKeepNoiseWidth(true);
+    QCOMPARE(upperMark()->thickness(), upperThickness + 9);
+    window->setKeepNoiseWidth(true);
     Q_EMIT plot->PlotScrollMagnified(0.8);
-    QCOMPARE(window.poUpperMark()->thickness(), upperThickness + 9);
+    QCOMPARE(upperMark()->thickness(), upperThickness + 9);
     Q_EMIT plot->PlotScrollMagnified(0.0);
-    QCOMPARE(window.poUpperMark()->thickness(), upperThickness);
+    QCOMPARE(upperMark()->thickness(), upperThickness);
 }
 
 void tst_ThresholdWindowWidget::noiseOrientation_data()
@@ -307,108 +283,79 @@ void tst_ThresholdWindowWidget::noiseOrientation()
     QFETCH(int, upper);
     QFETCH(int, lower);
 
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.allowOverlapping(true);
-    window.setLowerMark(30);
-    window.setUpperMark(upperValue);
-    const int lowerBefore = window.poLowerMark()->noiseOrientation();
-    window.setNoiseOrientation(inverted, upperOnly, keepUpper);
-    QCOMPARE(int(window.poUpperMark()->noiseOrientation()), upper);
-    QCOMPARE(int(window.poLowerMark()->noiseOrientation()), lower == -1 ? lowerBefore : lower);
+    window->allowOverlapping(true);
+    window->setLowerMark(30);
+    window->setUpperMark(upperValue);
+    const int lowerBefore = lowerMark()->noiseOrientation();
+    window->setNoiseOrientation(inverted, upperOnly, keepUpper);
+    QCOMPARE(int(upperMark()->noiseOrientation()), upper);
+    QCOMPARE(int(lowerMark()->noiseOrientation()), lower == -1 ? lowerBefore : lower);
 }
 
-void tst_ThresholdWindowWidget::zonesNormalWindow()
+void tst_ThresholdWindowWidget::zones_data()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.setLowerMark(30);
-    window.setUpperMark(70);
-    window.updateZoneGeometry();
-    QVERIFY(!window.poUpperZone()->isVisible()); // zones are off until asked for
-
-    window.setBothWindowZoneVisible(true);
-    Utils::CustomWidget *upperZone = window.poUpperZone();
-    Utils::CustomWidget *lowerZone = window.poLowerZone();
-    QVERIFY(upperZone->isVisible() && lowerZone->isVisible());
-    const double tolerance = unitsPerPixel(*plot);
-    QCOMPARE(upperZone->upperValue(), 100.0);
-    QVERIFY(std::abs(upperZone->lowerValue() - 70.0) <= tolerance);
-    QVERIFY(std::abs(lowerZone->upperValue() - 30.0) <= tolerance);
-    QCOMPARE(lowerZone->lowerValue(), 0.0);
-    QCOMPARE(upperZone->geometry().top(), int(plot->transform(QwtPlot::yLeft, 100.0)));
-    QVERIFY(std::abs(lowerZone->geometry().top() - plot->transform(QwtPlot::yLeft, 30.0)) <= 1);
-
-    // In the picture: shaded above 70 and below 30, white inside the window.
-    const QImage image = plot->canvas()->grab().toImage();
-    plot->grab().save(QDir::temp().filePath(QStringLiteral("tst_thresholdwindow_normal.png")));
-    const auto row = [&](double value) { return int(plot->transform(QwtPlot::yLeft, value)); };
-    QVERIFY(shadedShare(image, row(85)) > 0.95);
-    QVERIFY(shadedShare(image, row(15)) > 0.95);
-    QVERIFY(shadedShare(image, row(52)) < 0.2);
-    QVERIFY(shadedShare(image, row(48)) < 0.2);
+    QTest::addColumn<bool>("crossed");
+    QTest::newRow("normal window: shaded above the upper and below the lower mark") << false;
+    QTest::newRow("crossed marks: shaded between them") << true;
 }
 
-void tst_ThresholdWindowWidget::zonesCrossedMarks()
+void tst_ThresholdWindowWidget::zones()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.allowOverlapping(true);
-    window.setBothWindowZoneVisible(true);
-    window.setLowerMark(70);
-    window.setUpperMark(30);
-    Utils::CustomWidget *upperZone = window.poUpperZone();
+    QFETCH(bool, crossed);
+    window->allowOverlapping(true);
+    window->setBothWindowZoneVisible(true);
+    window->setLowerMark(crossed ? 70 : 30);
+    window->setUpperMark(crossed ? 30 : 70);
+    Utils::CustomWidget *upperZone = window->poUpperZone();
+    Utils::CustomWidget *lowerZone = window->poLowerZone();
     QVERIFY(upperZone->isVisible());
-    QVERIFY(!window.poLowerZone()->isVisible());
+    QCOMPARE(lowerZone->isVisible(), !crossed);
     const double tolerance = unitsPerPixel(*plot);
-    QVERIFY(std::abs(upperZone->lowerValue() - 30.0) <= tolerance);
-    QVERIFY(std::abs(upperZone->upperValue() - 70.0) <= tolerance);
+    QVERIFY(std::abs(upperZone->lowerValue() - (crossed ? 30.0 : 70.0)) <= tolerance);
+    QVERIFY(std::abs(upperZone->upperValue() - (crossed ? 70.0 : 100.0)) <= tolerance);
+    if (!crossed) {
+        QVERIFY(std::abs(lowerZone->upperValue() - 30.0) <= tolerance);
+        QCOMPARE(lowerZone->lowerValue(), 0.0);
+    }
 
     const QImage image = plot->canvas()->grab().toImage();
-    plot->grab().save(QDir::temp().filePath(QStringLiteral("tst_thresholdwindow_crossed.png")));
-    const auto row = [&](double value) { return int(plot->transform(QwtPlot::yLeft, value)); };
-    QVERIFY(shadedShare(image, row(52)) > 0.95);
-    QVERIFY(shadedShare(image, row(48)) > 0.95);
-    QVERIFY(shadedShare(image, row(85)) < 0.2);
-    QVERIFY(shadedShare(image, row(15)) < 0.2);
+    plot->grab().save(QDir::temp().filePath(QStringLiteral("tst_thresholdwindow_%1.png").arg(QLatin1String(crossed ? "crossed" : "normal"))));
+    for (double outside : {85.0, 15.0})
+        QCOMPARE(shaded(image, row(*plot, outside)), crossed ? 0 : 1);
+    for (double inside : {52.0, 48.0})
+        QCOMPARE(shaded(image, row(*plot, inside)), crossed ? 1 : 0);
 }
 
 void tst_ThresholdWindowWidget::zonesParkedAndOffline()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.setBothWindowZoneVisible(true);
-    window.setLowerMark(30);
-    window.setUpperMark(70);
+    window->setBothWindowZoneVisible(true);
+    window->setLowerMark(30);
+    window->setUpperMark(70);
+    window->setOfflineThresholds(80, 10, 95, 5);
+    QCOMPARE(window->poUpperZone()->lowerValue(), 80.0);
+    QCOMPARE(window->poUpperZone()->upperValue(), 95.0);
+    QCOMPARE(window->poLowerZone()->lowerValue(), 5.0);
+    QCOMPARE(window->poLowerZone()->upperValue(), 10.0);
 
-    window.setOfflineThresholds(80, 10, 95, 5);
-    QCOMPARE(window.poUpperZone()->lowerValue(), 80.0);
-    QCOMPARE(window.poUpperZone()->upperValue(), 95.0);
-    QCOMPARE(window.poLowerZone()->lowerValue(), 5.0);
-    QCOMPARE(window.poLowerZone()->upperValue(), 10.0);
-
-    window.setBothWindowZoneVisible(false);
-    QCOMPARE(window.poLowerZone()->lowerValue(), 50000.0);
-    QCOMPARE(window.poLowerZone()->upperValue(), 50001.0);
-    QVERIFY(window.poLowerZone()->geometry().bottom() < 0); // far above the canvas
-    window.updateZoneGeometry();
-    QVERIFY(!window.poUpperZone()->isVisible());
-    QVERIFY(!window.poLowerZone()->isVisible());
+    window->setBothWindowZoneVisible(false);
+    QCOMPARE(window->poLowerZone()->lowerValue(), 50000.0);
+    QCOMPARE(window->poLowerZone()->upperValue(), 50001.0);
+    QVERIFY(window->poLowerZone()->geometry().bottom() < 0); // far above the canvas
+    window->updateZoneGeometry();
+    QVERIFY(!window->poUpperZone()->isVisible() && !window->poLowerZone()->isVisible());
 
     // Offline zones only apply to a normal window.
-    window.allowOverlapping(true);
-    window.setUpperMark(20);
-    window.setOfflineThresholds(1, 2, 3, 4);
-    QCOMPARE(window.poUpperZone()->upperValue(), 95.0);
+    window->allowOverlapping(true);
+    window->setUpperMark(20);
+    window->setOfflineThresholds(1, 2, 3, 4);
+    QCOMPARE(window->poUpperZone()->upperValue(), 95.0);
 }
 
 void tst_ThresholdWindowWidget::followsWheelZoomAndScale()
 {
-    auto plot = makePlot();
-    ThresholdWindowWidget window(plot.get(), 0);
-    window.setBothWindowZoneVisible(true);
-    window.setLowerMark(30);
-    window.setUpperMark(70);
+    window->setBothWindowZoneVisible(true);
+    window->setLowerMark(30);
+    window->setUpperMark(70);
 
     // A wheel step on the canvas zooms in (a plot at its largest span refuses to
     // zoom out): the marks keep their values at new pixels and the upper zone
@@ -421,122 +368,100 @@ void tst_ThresholdWindowWidget::followsWheelZoomAndScale()
     const QwtScaleDiv &scale = plot->axisScaleDiv(QwtPlot::yLeft);
     QVERIFY2(scale.upperBound() - scale.lowerBound() < 99.0,
              qPrintable(QStringLiteral("no zoom: %1..%2").arg(scale.lowerBound()).arg(scale.upperBound())));
-    QCOMPARE(window.poUpperZone()->upperValue(), std::max(scale.lowerBound(), scale.upperBound()));
-    QCOMPARE(window.poUpperMark()->value(), 70.0);
-    const int markRow = window.poUpperMark()->geometry().top() + window.poUpperMark()->height();
-    QVERIFY(std::abs(markRow - plot->transform(QwtPlot::yLeft, 70.0)) <= 1);
+    QCOMPARE(window->poUpperZone()->upperValue(), std::max(scale.lowerBound(), scale.upperBound()));
+    QCOMPARE(upperMark()->value(), 70.0);
+    QVERIFY(std::abs(upperMark()->geometry().bottom() + 1 - row(*plot, 70.0)) <= 1);
 
     // A double click resets the zoom; the zones follow the reset.
     QTest::mouseDClick(canvas, Qt::LeftButton, Qt::NoModifier, centre);
     QCOMPARE(plot->axisScaleDiv(QwtPlot::yLeft).upperBound(), 100.0);
-    QCOMPARE(window.poUpperZone()->upperValue(), 100.0);
+    QCOMPARE(window->poUpperZone()->upperValue(), 100.0);
 
     // A host rescale moves the marks and zones along as well.
     plot->setAxisScale(QwtPlot::yLeft, 0.0, 400.0);
     plot->replot();
-    const int rescaledRow = window.poLowerMark()->geometry().top();
-    QVERIFY(std::abs(rescaledRow - plot->transform(QwtPlot::yLeft, 30.0)) <= 1);
-    QVERIFY(std::abs(window.poLowerZone()->geometry().top() - plot->transform(QwtPlot::yLeft, 30.0)) <= 2);
+    QVERIFY(std::abs(lowerMark()->geometry().top() - row(*plot, 30.0)) <= 1);
+    QVERIFY(std::abs(window->poLowerZone()->geometry().top() - row(*plot, 30.0)) <= 2);
 }
 
 void tst_ThresholdWindowWidget::genericRangeAndReadOnly()
 {
-    auto plot = makePlot();
-    Utils::ThresholdWindowWidgetGeneric window(plot.get(), 2);
-    window.setLowerMark(30);
-    window.setUpperMark(70);
-    window.setThresholdsRange(90, 10);
-    QCOMPARE(window.poUpperMark()->upper(), 90.0);
-    QCOMPARE(window.poLowerMark()->lower(), 10.0);
-    QCOMPARE(window.poUpperMark()->lower(), 30.5);
+    window.reset();
+    Utils::ThresholdWindowWidgetGeneric generic(plot.get(), 2);
+    QCOMPARE(generic.getComponentIndex(), 2);
+    generic.setLowerMark(30);
+    generic.setUpperMark(70);
+    generic.setThresholdsRange(90, 10);
+    QCOMPARE(generic.poUpperMark()->upper(), 90.0);
+    QCOMPARE(generic.poLowerMark()->lower(), 10.0);
+    QCOMPARE(generic.poUpperMark()->lower(), 30.5);
+    drag(generic.poUpperMark(), 0);
+    QVERIFY(generic.poUpperMark()->value() <= 90.0);
 
-    drag(window.poUpperMark(), 0);
-    QVERIFY(window.poUpperMark()->value() <= 90.0);
-
-    window.setReadOnlyUpperLower(true);
-    QSignalSpy spy(&window, &ThresholdWindowWidget::emitValueChanged);
-    const double before = window.poLowerMark()->value();
-    drag(window.poLowerMark(), plot->canvas()->height() - 5);
-    QCOMPARE(window.poLowerMark()->value(), before);
+    generic.setReadOnlyUpperLower(true);
+    QSignalSpy spy(&generic, &ThresholdWindowWidget::emitValueChanged);
+    const double before = generic.poLowerMark()->value();
+    drag(generic.poLowerMark(), plot->canvas()->height() - 5);
+    QCOMPARE(generic.poLowerMark()->value(), before);
     QCOMPARE(spy.count(), 0);
-
-    Utils::ThresholdWindowWidgetGenericColor colour(plot.get(), 1);
-    Utils::ThresholdWindowWidgetGenericNoTime noTime(plot.get(), 5);
-    QCOMPARE(colour.getComponentIndex(), 1);
-    QCOMPARE(noTime.getComponentIndex(), 5);
 }
 
 void tst_ThresholdWindowWidget::universalOperations()
 {
-    auto plot = makePlot();
-    Utils::ThresholdWindowWidgetUniversal window(plot.get(), 0);
-    window.setLowerMarkerValue(30, QStringLiteral("Off "));
-    window.setUpperMarkerValue(52.5, QStringLiteral("On "));
-    QCOMPARE(window.windowSize(), 22.5);
-    QCOMPARE(window.getUpperMark(), window.poUpperMark());
-    QCOMPARE(window.getLowerMark(), window.poLowerMark());
+    window.reset();
+    Utils::ThresholdWindowWidgetUniversal universal(plot.get(), 0);
+    universal.setLowerMarkerValue(30, QStringLiteral("Off "));
+    universal.setUpperMarkerValue(52.5, QStringLiteral("On "));
+    QCOMPARE(universal.windowSize(), 22.5);
 
-    auto *label = qobject_cast<QLabel *>(window.poWindowSizeLabel());
-    QVERIFY(label);
-    QVERIFY(!window.getWindowSizeVisible());
-    QVERIFY(!label->isVisible());
-    window.setWindowSizeVisible(true);
+    auto *label = qobject_cast<QLabel *>(universal.poWindowSizeLabel());
+    QVERIFY(label && !label->isVisible());
+    universal.setWindowSizeVisible(true);
     QVERIFY(label->isVisible());
     QCOMPARE(label->text(), QStringLiteral("22.50"));
-    window.formatText(true);
+    universal.formatText(true);
     QCOMPARE(label->text(), QStringLiteral("22.5"));
     // Between the marks, also after the canvas grew.
     plot->resize(700, 600);
     QCoreApplication::processEvents();
-    const double middleRow = plot->transform(QwtPlot::yLeft, (30 + 52.5) / 2);
+    const int middleRow = row(*plot, (30 + 52.5) / 2);
     QVERIFY2(std::abs(label->geometry().center().y() - middleRow) <= 2,
              qPrintable(QStringLiteral("%1 vs %2").arg(label->geometry().center().y()).arg(middleRow)));
     QCOMPARE(label->geometry().right(), plot->canvas()->width() - 5);
-    window.showUpperMark(false);
-    QVERIFY(!window.isUpperMarkVisible());
-    QVERIFY(window.isLowerMarkVisible());
+    universal.showUpperMark(false);
+    QVERIFY(!universal.isUpperMarkVisible() && universal.isLowerMarkVisible());
     QVERIFY(!label->isVisible());
-    window.showUpperMark(true);
-    QVERIFY(window.isUpperMarkVisible());
+    universal.showUpperMark(true);
 
     // The named value gives the hint its text.
-    QTest::mousePress(window.poUpperMark(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 1));
-    QTest::mouseRelease(window.poUpperMark(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 1));
-    QCOMPARE(window.poUpperMark()->hintText(), QStringLiteral("On 52.5"));
-
-    window.vDisabledUpperMark(true);
-    QVERIFY(!window.poUpperMark()->isEnabled());
-    window.vDisabledUpperMark(false);
-    QVERIFY(window.poUpperMark()->isEnabled());
-
-    QVERIFY(!window.overlapping());
-    window.allowOverlapping(true);
-    QVERIFY(window.overlapping());
-    window.vSetCustomThreshold(true);
-    QVERIFY(window.bGtCustomThresholds());
-    window.vSetRestrictionFactor(-1);
-    QCOMPARE(window.poLowerMark()->restrictionCustom(), -1);
+    QTest::mousePress(universal.poUpperMark(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 1));
+    QTest::mouseRelease(universal.poUpperMark(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 1));
+    QCOMPARE(universal.poUpperMark()->hintText(), QStringLiteral("On 52.5"));
+    universal.vDisabledUpperMark(true);
+    QVERIFY(!universal.poUpperMark()->isEnabled());
+    universal.vSetRestrictionFactor(-1);
+    QCOMPARE(universal.poLowerMark()->restrictionCustom(), -1);
 }
 
 void tst_ThresholdWindowWidget::worksOnPlainQwtPlotAndOutlivesIt()
 {
-    auto plot = std::make_unique<QwtPlot>();
-    plot->setAxisScale(QwtPlot::yLeft, 0.0, 10.0);
-    plot->resize(300, 200);
-    plot->show();
-    plot->replot();
-    auto window = std::make_unique<Utils::ThresholdWindowWidgetUniversal>(plot.get(), 0);
-    window->setBothWindowZoneVisible(true);
-    window->setLowerMark(2);
-    window->setUpperMark(8);
-    QCOMPARE(window->poUpperMark()->lower(), 2.5);
+    auto plainPlot = std::make_unique<QwtPlot>();
+    plainPlot->setAxisScale(QwtPlot::yLeft, 0.0, 10.0);
+    plainPlot->resize(300, 200);
+    plainPlot->show();
+    plainPlot->replot();
+    auto universal = std::make_unique<Utils::ThresholdWindowWidgetUniversal>(plainPlot.get(), 0);
+    universal->setBothWindowZoneVisible(true);
+    universal->setLowerMark(2);
+    universal->setUpperMark(8);
+    QCOMPARE(universal->poUpperMark()->lower(), 2.5);
 
-    plot.reset(); // the marks and zones go with the canvas
-    QVERIFY(!window->poUpperMark());
-    window->setUpperMark(5);
-    window->updateZoneGeometry();
-    QCOMPARE(window->windowSize(), 0.0);
-    window.reset();
+    plainPlot.reset(); // the marks and zones go with the canvas
+    QVERIFY(!universal->poUpperMark());
+    universal->setUpperMark(5);
+    universal->updateZoneGeometry();
+    QCOMPARE(universal->windowSize(), 0.0);
+    universal.reset();
 
     ThresholdWindowWidget orphan(nullptr, 0);
     orphan.setNoise(1, 1);
