@@ -74,6 +74,13 @@ inline double upper(const QwtPlot &plot, int axis)
     return plot.axisScaleDiv(axis).upperBound();
 }
 
+//! The shown interval of \a axis, as (lower bound, upper bound).
+using Range = QPair<double, double>;
+inline Range range(const QwtPlot &plot, int axis)
+{
+    return Range(lower(plot, axis), upper(plot, axis));
+}
+
 inline double span(const QwtPlot &plot, int axis)
 {
     return upper(plot, axis) - lower(plot, axis);

