@@ -141,7 +141,6 @@ void tst_ThresholdsData::hueGivesColourLimits_data()
 
     // Saturation 510 and lightness 254 give HSL (h, 255, 127): full colours whose
     // spread is stretched to 0..512.
-    QTest::newRow("red") << High << 0.0 << 510.0 << 254.0 << 512 << 0 << 0;
     QTest::newRow("orange") << High << 30.0 << 510.0 << 254.0 << 512 << 256 << 0;
     QTest::newRow("fraction truncated") << High << 60.9 << 510.0 << 254.0 << 512 << 512 << 0;
     QTest::newRow("clamped 400 is 359") << High << 400.0 << 510.0 << 254.0 << 512 << 0 << 8;
@@ -189,7 +188,6 @@ void tst_ThresholdsData::toHexString_data()
     QTest::addColumn<double>("high");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("sensor zero point") << ThresholdsData::Extra3 << 0x8000 << 0 << 0.0 << 0.0 << "8000800080008000";
     QTest::newRow("saturation noise") << ThresholdsData::Saturation << 0x8000 << 16 << 100.0 << 300.0 << "813C812C80648054";
     QTest::newRow("values truncated") << ThresholdsData::Blue << 0 << 1 << 10.9 << 20.9 << "00150014000A0009";
     // Word 4 of this record is not held at 0; a negative word shows all its bits.
@@ -231,8 +229,6 @@ void tst_ThresholdsData::fromHexString_data()
                                        << ThresholdsData::Lightness << 10;
     QTest::newRow("below the offset gives 0") << ThresholdsData::Extra1 << 0x8000 << "0010000500020000" << 0.0 << 0.0
                                               << ThresholdsData::Hue << 11;
-    QTest::newRow("lower-case digits") << ThresholdsData::Extra2 << 0 << "00ff00fa00640000" << 100.0 << 250.0
-                                       << ThresholdsData::Hue << 5;
     QTest::newRow("non-hex word reads 0") << ThresholdsData::Lightness << 0 << "0032zz1400280000" << 40.0 << 0.0
                                           << ThresholdsData::Lightness << 50;
     QTest::newRow("word 4 ignored") << ThresholdsData::Saturation << 0 << "0014000A0005!?*#" << 5.0 << 10.0
