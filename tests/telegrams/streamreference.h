@@ -16,15 +16,10 @@
 
 namespace StreamReference {
 
-inline std::string piece(const std::string &text, std::size_t pos)
-{
-    return text.substr(pos, 2);
-}
-
 //! One single-byte field: `stream >> unsignedChar`, which keeps the field on failure.
 inline uint8_t readCharacter(const std::string &text, std::size_t pos, uint8_t field)
 {
-    std::istringstream stream(piece(text, pos));
+    std::istringstream stream(text.substr(pos, 2));
     unsigned char value = field;
     stream >> std::hex >> value;
     return value;
@@ -33,7 +28,7 @@ inline uint8_t readCharacter(const std::string &text, std::size_t pos, uint8_t f
 template<typename Number>
 Number readNumber(const std::string &text, std::size_t pos, Number start)
 {
-    std::istringstream stream(piece(text, pos));
+    std::istringstream stream(text.substr(pos, 2));
     Number value = start;
     stream >> std::hex >> value;
     return value;

@@ -36,15 +36,8 @@ void tst_MelEncoderDecoder::checksum_data()
     // The last odd character is a piece of its own: 0x12 XOR 0x3.
     QTest::newRow("odd length") << std::string("123") << std::string("1100");
     QTest::newRow("one character") << std::string("7") << std::string("0700");
-    QTest::newRow("lower case") << std::string("5a") << std::string("5A00");
-    // Pieces read like a hex stream: no digits counts 0, reading stops at a non-hex character.
+    // A piece without hex digits counts 0.
     QTest::newRow("non-hex piece") << std::string("ZZ0141") << std::string("4000");
-    QTest::newRow("non-hex second character") << std::string("1G20") << std::string("2100");
-    QTest::newRow("leading blank") << std::string(" 102") << std::string("0300");
-    QTest::newRow("0x prefix") << std::string("0x05") << std::string("0500");
-    // A sign is read too; a negative sum prints as the full unsigned int.
-    QTest::newRow("plus sign") << std::string("+F01") << std::string("0E00");
-    QTest::newRow("minus sign") << std::string("-101") << std::string("FFFFFFFE00");
 }
 
 void tst_MelEncoderDecoder::checksum()
@@ -59,37 +52,37 @@ void tst_MelEncoderDecoder::checksum()
 
 void tst_MelEncoderDecoder::checksumLikeStream()
 {
+    // Random texts of the characters the reading treats specially, every pair
+    // of bytes as a one-piece and as a two-piece text, and the fuzzer's inputs.
+    std::vector<std::string> texts;
     static const char alphabet[] = "0123456789abcdefABCDEFxX+- \t\n.G\x80";
     QRandomGenerator random(4711);
-    MelEncoderDecoder codec;
     for (int round = 0; round < 20000; ++round) {
         std::string text(random.bounded(0, 40), '0');
         for (char &c : text)
             c = alphabet[random.bounded(int(sizeof alphabet - 1))];
-        QCOMPARE(codec.oCalculateChecksum(text), StreamReference::melChecksum(text));
+        texts.push_back(text);
     }
-    // Every pair of bytes as a one-piece and a two-piece text.
-    for (int first = 0; first < 256; ++first) {
-        for (int second = 0; second < 256; ++second) {
-            const std::string pair{ char(first), char(second) };
-            const std::string text = "1" + pair;
-            QCOMPARE(codec.oCalculateChecksum(pair), StreamReference::melChecksum(pair));
-            QCOMPARE(codec.oCalculateChecksum(text), StreamReference::melChecksum(text));
-        }
+    for (int pair = 0; pair < 0x10000; ++pair) {
+        texts.push_back({ char(pair >> 8), char(pair) });
+        texts.push_back({ '1', char(pair >> 8), char(pair) });
     }
     const QDir corpus(QStringLiteral(UTILS_TELEGRAM_CORPUS "/fuzz_melchecksum"));
     for (const QString &name : corpus.entryList(QDir::Files)) {
         QFile file(corpus.absoluteFilePath(name));
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const std::string text = file.readAll().toStdString();
-        QVERIFY2(codec.oCalculateChecksum(text) == StreamReference::melChecksum(text), qPrintable(name));
+        texts.push_back(file.readAll().toStdString());
     }
+    MelEncoderDecoder codec;
+    for (const std::string &text : texts)
+        QVERIFY2(codec.oCalculateChecksum(text) == StreamReference::melChecksum(text),
+                 QByteArray::fromStdString(text).toPercentEncoding().constData());
 }
 
 void tst_MelEncoderDecoder::setFromString()
 {
-    MelData data;
     // Too short: refused, nothing traced, nothing stored.
+    MelData data;
     std::string text(995, 'Q');
     QVERIFY(!data.setFromString(text));
     QCOMPARE(data, MelData());
@@ -107,14 +100,12 @@ void tst_MelEncoderDecoder::setFromString()
         QCOMPARE(int(data.pu8Data()[i]), i == 76 ? int('K') : 0);
 
     // Copies take the whole block; initMembers zeroes it.
-    MelData copy(data);
-    QCOMPARE(copy, data);
     MelData assigned;
     assigned = data;
+    QCOMPARE(MelData(data), data);
     QCOMPARE(assigned, data);
     assigned.initMembers();
     QCOMPARE(assigned, MelData());
-    QVERIFY(copy != assigned);
 }
 
 void tst_MelEncoderDecoder::partialCodec()
@@ -128,10 +119,6 @@ void tst_MelEncoderDecoder::partialCodec()
     MelEncoderDecoder codec;
     QCOMPARE(codec.oEncode(data), std::string());
     QCOMPARE(codec.oDecodeString(std::string(1200, 'F')), MelData());
-    const MelEncoderDecoder copy(codec);
-    MelEncoderDecoder assigned;
-    assigned = copy;
-    QCOMPARE(assigned.u16LastError(), (unsigned short)0);
 }
 
 QTEST_GUILESS_MAIN(tst_MelEncoderDecoder)
