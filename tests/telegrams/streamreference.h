@@ -16,17 +16,10 @@
 
 namespace StreamReference {
 
-//! One single-byte field: `stream >> unsignedChar`, which keeps the field on failure.
-inline uint8_t readCharacter(const std::string &text, std::size_t pos, uint8_t field)
-{
-    std::istringstream stream(text.substr(pos, 2));
-    unsigned char value = field;
-    stream >> std::hex >> value;
-    return value;
-}
-
+//! `stream >> std::hex >> value`; an unsigned char takes one character, not a
+//! number, and every type keeps \a start when the stream fails before converting.
 template<typename Number>
-Number readNumber(const std::string &text, std::size_t pos, Number start)
+Number read(const std::string &text, std::size_t pos, Number start)
 {
     std::istringstream stream(text.substr(pos, 2));
     Number value = start;
@@ -48,22 +41,22 @@ inline bool setFromString(Utils::TamarindProtocolHeader &header, const std::stri
     if (text.size() < 24)
         return false;
 
-    header.vSetStart(readCharacter(text, 0, header.u8Start()));
-    header.vSetVersion(readCharacter(text, 2, header.u8Version()));
-    header.vSetMessageId(readCharacter(text, 4, header.u8MessageId()));
-    header.vSetRepeat(readCharacter(text, 6, header.u8Repeat()));
+    header.vSetStart(read<unsigned char>(text, 0, header.u8Start()));
+    header.vSetVersion(read<unsigned char>(text, 2, header.u8Version()));
+    header.vSetMessageId(read<unsigned char>(text, 4, header.u8MessageId()));
+    header.vSetRepeat(read<unsigned char>(text, 6, header.u8Repeat()));
 
-    uint16_t length = readNumber<unsigned short>(text, 8, header.u16ProtocolLenght());
-    length = static_cast<uint16_t>(length + (static_cast<uint32_t>(readNumber<int>(text, 10, 0)) << 8));
+    uint16_t length = read<unsigned short>(text, 8, header.u16ProtocolLenght());
+    length = static_cast<uint16_t>(length + (static_cast<uint32_t>(read<int>(text, 10, 0)) << 8));
     header.vSetProtocolLenght(length);
 
-    header.vSetMessageType(readCharacter(text, 12, header.u8MessageType()));
-    header.vSetDummy(readCharacter(text, 14, header.u8Dummy()));
+    header.vSetMessageType(read<unsigned char>(text, 12, header.u8MessageType()));
+    header.vSetDummy(read<unsigned char>(text, 14, header.u8Dummy()));
 
-    uint32_t address = readNumber<unsigned int>(text, 16, header.u32Adress());
-    address += static_cast<uint32_t>(readNumber<int>(text, 18, 0)) << 8;
-    address += static_cast<uint32_t>(readNumber<int>(text, 20, 0)) << 16;
-    address += static_cast<uint32_t>(readNumber<int>(text, 22, 0)) << 24;
+    uint32_t address = read<unsigned int>(text, 16, header.u32Adress());
+    address += static_cast<uint32_t>(read<int>(text, 18, 0)) << 8;
+    address += static_cast<uint32_t>(read<int>(text, 20, 0)) << 16;
+    address += static_cast<uint32_t>(read<int>(text, 22, 0)) << 24;
     header.vSetAdress(address);
     return true;
 }
@@ -73,9 +66,9 @@ inline std::string melChecksum(const std::string &text)
 {
     if (text.empty())
         return std::string();
-    int running = readNumber<int>(text, 0, 0);
+    int running = read<int>(text, 0, 0);
     for (std::size_t p = 2; p < text.size(); p += 2)
-        running ^= readNumber<int>(text, p, 0);
+        running ^= read<int>(text, p, 0);
     char buffer[16];
     std::snprintf(buffer, sizeof buffer, "%.2X", static_cast<unsigned>(running));
     return std::string(buffer) + "00";
