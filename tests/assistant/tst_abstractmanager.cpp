@@ -73,6 +73,7 @@ void tst_AbstractManager::pageListOperations_data()
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<bool>("emits");
+    // clang-format off
     QTest::newRow("set same list") << "set" << "ab" << 0 << "ab" << false;
     QTest::newRow("set reordered") << "set" << "ba" << 0 << "ba" << true;
     QTest::newRow("append nothing") << "append" << "" << 0 << "ab" << false;
@@ -85,6 +86,7 @@ void tst_AbstractManager::pageListOperations_data()
     QTest::newRow("insert past the count") << "insert" << "xy" << 3 << "ab" << false;
     QTest::newRow("insert at negative index") << "insert" << "xy" << -1 << "ab" << false;
     QTest::newRow("remove ignores strangers") << "remove" << "ax" << 0 << "b" << true;
+    // clang-format on
 }
 
 // A page starting with elements "ab" (spacers named by letter); every list
@@ -110,18 +112,16 @@ void tst_AbstractManager::pageListOperations()
     page.setElements(elements(QStringLiteral("ab")));
     QSignalSpy spy(&page, &Page::elementsChanged);
 
-    QObjectList result;
-    if (operation == QLatin1String("set")) {
-        page.setElements(elements(argument));
-        result = page.elements();
-    } else if (operation == QLatin1String("append"))
-        result = page.appendElements(elements(argument));
+    const QObjectList given = elements(argument);
+    if (operation == QLatin1String("set"))
+        page.setElements(given);
+    else if (operation == QLatin1String("append"))
+        QCOMPARE(page.appendElements(given), elements(expected));
     else if (operation == QLatin1String("insert"))
-        result = page.insertElementsAt(elements(argument), index);
+        QCOMPARE(page.insertElementsAt(given, index), elements(expected));
     else
-        result = page.removeElements(elements(argument));
+        QCOMPARE(page.removeElements(given), elements(expected));
     QCOMPARE(page.elements(), elements(expected));
-    QCOMPARE(result, elements(expected));
     QCOMPARE(spy.count(), emits ? 1 : 0);
     if (emits)
         QCOMPARE(spy.at(0).at(0).value<QObjectList>(), elements(expected));
@@ -161,6 +161,7 @@ void tst_AbstractManager::pageKinds_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("code");
     QTest::addColumn<bool>("password");
+    // clang-format off
     QTest::newRow("password change") << "intro" << "PASSWORD_CHANGE" << 1 << true;
     QTest::newRow("save") << "PASSWORD_CHANGE" << "SAVE" << 2 << false;
     QTest::newRow("teach") << "SAVE" << "TEACH_PAGE" << 3 << false;
@@ -169,6 +170,7 @@ void tst_AbstractManager::pageKinds_data()
     // The entry page keeps whatever code the page before it set.
     QTest::newRow("entry after teach keeps 3") << "TEACH_PAGE" << "PASSWORD_ENTRY" << 3 << true;
     QTest::newRow("entry after change keeps 1") << "PASSWORD_CHANGE" << "PASSWORD_ENTRY" << 1 << true;
+    // clang-format on
 }
 
 void tst_AbstractManager::pageKinds()
@@ -282,24 +284,18 @@ void tst_AbstractManager::lastPageContent()
     QVERIFY(page);
     QCOMPARE(page->objectName(), QStringLiteral("SAVE"));
     QCOMPARE(page->parent(), &manager);
-    const QObjectList elements = page->elements();
-    QCOMPARE(elements.size(), 5);
-    const int heights[] = { 40, -1, 30, -1, 40 };
-    for (int i = 0; i < 5; ++i) {
-        QCOMPARE(elements.at(i)->parent(), &manager);
-        if (heights[i] >= 0) {
-            auto *spacer = qobject_cast<SpacerElement *>(elements.at(i));
-            QVERIFY(spacer);
-            QCOMPARE(spacer->height(), heights[i]);
-        }
+    QList<int> types;
+    for (QObject *object : page->elements()) {
+        QCOMPARE(object->parent(), &manager);
+        types << qobject_cast<Element *>(object)->typeID();
     }
-    auto *title = qobject_cast<TitleComponent *>(elements.at(1));
-    QVERIFY(title);
-    QCOMPARE(title->title(), QStringLiteral("Save"));
-    auto *description = qobject_cast<DescriptionElement *>(elements.at(3));
-    QVERIFY(description);
-    QCOMPARE(int(description->typeID()), int(Element::Description));
-    QCOMPARE(description->description(), QStringLiteral("Do you want to save the settings ?"));
+    QCOMPARE(types,
+        (QList<int> { Element::Spacer, Element::Title, Element::Spacer, Element::Description, Element::Spacer }));
+    const auto heightOf = [page](int i) { return qobject_cast<SpacerElement *>(page->elements().at(i))->height(); };
+    QCOMPARE((QList<int> { heightOf(0), heightOf(2), heightOf(4) }), (QList<int> { 40, 30, 40 }));
+    QCOMPARE(qobject_cast<TitleComponent *>(page->elements().at(1))->title(), QStringLiteral("Save"));
+    QCOMPARE(qobject_cast<DescriptionElement *>(page->elements().at(3))->description(),
+        QStringLiteral("Do you want to save the settings ?"));
 
     manager.setCurrentPageIndex(1);
     QCOMPARE(int(manager.nisDefaultText()), 2);
