@@ -27,6 +27,11 @@ Log *Log::requestInstance()
     return m_poInstance;
 }
 
+Log *Internal::existingLog()
+{
+    return Log::m_poInstance;
+}
+
 void Log::releaseInstance(bool force)
 {
     const qint32 before = m_nReferenceCounter--;

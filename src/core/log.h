@@ -12,6 +12,11 @@
 namespace Utils {
 namespace LoggingSystem {
 
+class Log;
+namespace Internal {
+Log *existingLog();
+}
+
 /*!
     \brief The process-wide logger, a counted singleton.
 
@@ -62,6 +67,7 @@ private:
     static Log *m_poInstance;
     static qint32 m_nReferenceCounter;
 
+    friend Log *Internal::existingLog();
 };
 
 } // namespace LoggingSystem

@@ -15,6 +15,9 @@ class QDateTime;
 
 namespace Utils {
 namespace LoggingSystem {
+
+class Log;
+
 namespace Internal {
 
 /*!
@@ -25,6 +28,15 @@ namespace Internal {
     Log::MessageBufferSize - 1 bytes, shortened further to the last whole UTF-8
     character; a null format or one the formatter rejects gives an empty message.
 */
+/*!
+    The logger if somebody holds it, else null; never creates it. Code that logs
+    on a path run per event or per sample uses it instead of requesting and
+    releasing the logger around each line, which would create and destroy the
+    logger and its buffer every time nobody else holds it. Nothing is lost when
+    it is null: vLog() drops its line anyway.
+*/
+Log *existingLog();
+
 UTILS_EXPORT QString composeLogLine(int level, const std::string &module, const QDateTime &now, const char *format,
                                     va_list args);
 

@@ -6,6 +6,7 @@
 // Internal: not installed.
 
 #include "core/log.h"
+#include "core/log_p.h"
 
 #include <cmath>
 #include <cstdint>
@@ -63,13 +64,11 @@ inline int hexWord(const std::string &text, std::size_t offset)
     return value;
 }
 
-//! Writes two values, space-separated, to the logger at debug level.
+//! Writes two values, space-separated, to the logger at debug level when somebody holds it.
 inline void logPair(const char *module, double first, double second)
 {
-    using LoggingSystem::Log;
-    Log *log = Log::requestInstance();
-    log->vLog(Log::eDebug, module, "%g %g", first, second);
-    Log::releaseInstance();
+    if (LoggingSystem::Log *log = LoggingSystem::Internal::existingLog())
+        log->vLog(LoggingSystem::Log::eDebug, module, "%g %g", first, second);
 }
 
 } // namespace ThresholdsString
