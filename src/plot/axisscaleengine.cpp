@@ -3,6 +3,8 @@
 
 #include <qwt_interval.h>
 
+#include <cmath>
+
 namespace Utils {
 
 AxisScaleEngine::AxisScaleEngine(uint base)
@@ -15,6 +17,11 @@ AxisScaleEngine::~AxisScaleEngine() = default;
 QwtScaleDiv AxisScaleEngine::divideScale(double x1, double x2, int maxMajorSteps, int maxMinorSteps,
                                          double stepSize) const
 {
+    // Qwt's tick loops never end for bounds or steps that are not numbers.
+    if (!std::isfinite(x1) || !std::isfinite(x2))
+        return QwtScaleDiv();
+    if (!std::isfinite(stepSize))
+        stepSize = 0.0;
     const QwtInterval interval = QwtInterval(x1, x2).normalized();
     QwtScaleDiv div = QwtLinearScaleEngine::divideScale(interval.minValue(), interval.maxValue(), maxMajorSteps,
                                                         maxMinorSteps, stepSize);

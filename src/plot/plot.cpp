@@ -165,6 +165,10 @@ void Plot::shareValueLimits(double min, double max)
 
 void Plot::setAxisScale(int axisId, double min, double max, double step)
 {
+    // A scale that is not a number cannot be drawn, and the tools would share
+    // its limits: keep the present one.
+    if (!std::isfinite(min) || !std::isfinite(max) || !std::isfinite(step))
+        return;
     QwtPlot::setAxisScale(axisId, min, max, step);
     if (axisId == QwtPlot::yLeft) {
         shareValueLimits(min, max);
@@ -178,7 +182,8 @@ void Plot::setAxisScale(int axisId, double min, double max, double step)
 
 void Plot::vSetXAxis(const double &min, const double &max)
 {
-    if (!d->timeMagnifier)
+    // The zoom reset shows these limits.
+    if (!d->timeMagnifier || !std::isfinite(min) || !std::isfinite(max))
         return;
     d->timeMagnifier->setMinXRange(min);
     d->timeMagnifier->setMaxXRange(max);
@@ -341,7 +346,7 @@ bool Plot::isPlotEnabled() const
 
 void Plot::setMinimumZoomLevel(double level)
 {
-    if (d->valueMagnifier)
+    if (d->valueMagnifier && !std::isnan(level))
         d->valueMagnifier->SetMinimumZoomLevel(level + 1.0);
 }
 
@@ -378,6 +383,9 @@ void Plot::vZoomWithIntVal(bool integerValues)
 
 void Plot::setSecondValue(double value)
 {
+    // The centre of the right axis in a centre zoom.
+    if (!std::isfinite(value))
+        return;
     m_dSecondValue = value;
 }
 

@@ -55,9 +55,10 @@ public:
         range, the zoomer's upper bound and the panner's limits (widened by the pan
         offsets); for yRight the magnifier's right range. Resets the zoom base.
         Hides QwtPlot::setAxisScale, which the tools call to move the view.
+        Bounds or a step that are not finite numbers are refused: nothing changes.
     */
     void setAxisScale(int axisId, double min, double max, double step = 0);
-    //! Limits of the time magnifier: lower time bound, then largest span.
+    //! Limits of the time magnifier: lower time bound, then largest span; ignored unless both are finite.
     void vSetXAxis(const double &min, const double &max);
     void enableRightAxis(bool enable);
     //! yRight scale with a major step of 2.0.
@@ -83,6 +84,7 @@ public:
     //! Plain numbers instead of times on the bottom axis.
     void enableXAxisDisplayValue(bool displayValue);
     void vZoomWithIntVal(bool integerValues);
+    //! Centre of yRight in a centre zoom; a value that is not finite is ignored.
     void setSecondValue(double value);
     double secondValue() const;
     void setEnableNegativeValues(bool enable);

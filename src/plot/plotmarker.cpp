@@ -130,6 +130,10 @@ PlotMarker::~PlotMarker() = default;
 
 void PlotMarker::setValue(const double &value)
 {
+    // A NaN value would travel on to whoever reads the marker (a threshold
+    // manager, the sensor): refuse it and keep the last value.
+    if (std::isnan(value))
+        return;
     d->value = value;
     if (value > 0.0 && !d->disabled)
         setVisible(true);

@@ -2,6 +2,7 @@
 #include "thresholdwindowwidget.h"
 
 #include "core/log.h"
+#include "core/log_p.h"
 #include "plot/plotmarker.h"
 #include "thresholds/customwidget.h"
 
@@ -62,12 +63,12 @@ void setSideFlag(PlotMarker *mark, bool set)
         mark->setNoiseOrientation(wanted);
 }
 
+// Runs at every drag end: it logs through a logger somebody already holds
+// rather than creating and destroying one per call.
 void logDebug(const char *format, double value)
 {
-    using LoggingSystem::Log;
-    Log *log = Log::requestInstance();
-    log->vLog(Log::eDebug, "ThresholdWindowWidget", format, value);
-    Log::releaseInstance();
+    if (LoggingSystem::Log *log = LoggingSystem::Internal::existingLog())
+        log->vLog(LoggingSystem::Log::eDebug, "ThresholdWindowWidget", format, value);
 }
 
 } // namespace
@@ -156,7 +157,9 @@ ThresholdWindowWidget::~ThresholdWindowWidget()
 
 void ThresholdWindowWidget::setUpperMark(const double &value)
 {
-    if (!d->ready())
+    // A switching point that is not a number would be written into a manager
+    // and sent to the sensor: keep the mark where it is.
+    if (!d->ready() || !std::isfinite(value))
         return;
     const bool changed = !sameValue(d->upperMark->value(), value);
     d->upperMark->setValue(value);
@@ -168,7 +171,9 @@ void ThresholdWindowWidget::setUpperMark(const double &value)
 
 void ThresholdWindowWidget::setLowerMark(const double &value)
 {
-    if (!d->ready())
+    // A switching point that is not a number would be written into a manager
+    // and sent to the sensor: keep the mark where it is.
+    if (!d->ready() || !std::isfinite(value))
         return;
     const bool changed = !sameValue(d->lowerMark->value(), value);
     d->lowerMark->setValue(value);
