@@ -15,7 +15,7 @@ LAUNCHER   := $(shell command -v ccache >/dev/null 2>&1 && echo -DCMAKE_CXX_COMP
 export CCACHE_BASEDIR := $(CURDIR)
 export CCACHE_NOHASHDIR := 1
 
-.PHONY: deps build demo test sanitize bench fuzz clean
+.PHONY: deps build demo test sanitize bench fuzz docs clean
 
 deps:
 	@tools/install-deps.sh base
@@ -51,6 +51,11 @@ fuzz:
 	    -DUTILS_BUILD_EXAMPLES=OFF -DUTILS_BUILD_FUZZERS=ON -DUTILS_SANITIZE=ON $(LAUNCHER) $(CMAKE_FLAGS)
 	cmake --build $(FUZZ_BUILD) -j $(JOBS)
 	tools/run-fuzzers.sh $(FUZZ_BUILD) $(FUZZ_SECONDS)
+
+docs: $(BUILD)/CMakeCache.txt
+	@tools/install-deps.sh docs
+	cmake -S . -B $(BUILD)
+	cmake --build $(BUILD) --target docs
 
 clean:
 	rm -rf $(BUILD) $(SAN_BUILD) $(BENCH_BUILD) $(FUZZ_BUILD) $(DEMO_OUT)

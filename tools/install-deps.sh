@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: LGPL-2.1-or-later
 # Installs the Debian packages a build needs, only those that are missing.
-# Usage: tools/install-deps.sh [base|fuzz|bench]...
+# Usage: tools/install-deps.sh [base|fuzz|bench|docs]...
 set -euo pipefail
 
 base=(build-essential cmake pkg-config ccache python3 poppler-utils
@@ -11,6 +11,7 @@ base=(build-essential cmake pkg-config ccache python3 poppler-utils
       qml-module-qtquick-controls2 qml-module-qtqml-models2)
 fuzz=(clang libclang-rt-14-dev)
 bench=(libbenchmark-dev libqcustomplot-dev libqt5charts5-dev)
+docs=(doxygen)
 
 wanted=()
 for set in "${@:-base}"; do
@@ -18,6 +19,7 @@ for set in "${@:-base}"; do
         base) wanted+=("${base[@]}") ;;
         fuzz) wanted+=("${base[@]}" "${fuzz[@]}") ;;
         bench) wanted+=("${base[@]}" "${bench[@]}") ;;
+        docs) wanted+=("${base[@]}" "${docs[@]}") ;;
         *) echo "unknown package set: $set" >&2; exit 2 ;;
     esac
 done

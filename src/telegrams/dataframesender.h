@@ -23,7 +23,7 @@ namespace Utils {
     case-sensitive regular expression. The whole matched text is kept in
     oMatchedReply. Frames, patterns and replies are byte strings; the matching
     sees every byte as one Latin-1 character, so binary replies match byte by
-    byte (write a NUL byte as \x00 in the pattern).
+    byte (write a NUL byte as \\x00 in the pattern).
 */
 struct DataSequence
 {

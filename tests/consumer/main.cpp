@@ -6,8 +6,13 @@
 #include <utils/plot/plot.h>
 #include <utils/telegrams/tamarindprotocolheader.h>
 #include <utils/thresholds/thresholdsdata.h>
+#include <utils/version.h>
+
+#include "snippets.h"
 
 #include <QApplication>
+#include <QMainWindow>
+#include <QPlainTextEdit>
 
 #include <cstdio>
 
@@ -32,6 +37,11 @@ int main(int argc, char **argv)
     log->vLog(Utils::LoggingSystem::Log::eInfo, "Consumer", "linked %d", counter.calls);
     Utils::LoggingSystem::Log::releaseInstance(false);
 
+    QMainWindow window;
+    QPlainTextEdit logView;
+    showSensorWindow(&window, &logView);
+    const bool logged = logView.toPlainText().startsWith(QStringLiteral("utils " UTILS_VERSION_STRING));
+
     Utils::Plot plot;
     plot.resize(400, 300);
     const bool painted = !plot.grab().isNull();
@@ -39,7 +49,10 @@ int main(int argc, char **argv)
     Utils::TamarindProtocolHeader header(std::string("0201050014000300FF000000"));
     Assistant::Element::registerQmlElement();
 
-    std::printf("consumer ok %d %d %s\n", counter.calls, painted ? 1 : 0,
-                thresholds.toHexString(Utils::ThresholdsData::Red).c_str());
-    return counter.calls == 1 && painted && header.u16ProtocolLenght() == 20 ? 0 : 1;
+    std::printf("consumer ok %d %d %s %s\n", counter.calls, painted ? 1 : 0,
+                thresholds.toHexString(Utils::ThresholdsData::Red).c_str(), Utils::oVersionString());
+    return counter.calls == 1 && painted && logged && header.u16ProtocolLenght() == 20
+                   && Utils::u32Version() == UTILS_VERSION
+               ? 0
+               : 1;
 }
