@@ -27,7 +27,16 @@ TemporaryFile::~TemporaryFile()
 void TemporaryFile::open()
 {
     // ReadWrite | Unbuffered, value 35.
-    QTemporaryFile::open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    if (QTemporaryFile::open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return;
+    // Beside an executable in a read-only folder there is no scratch log; the
+    // host learns it once instead of never.
+    static bool warned = false;
+    if (!warned) {
+        warned = true;
+        qWarning("Utils::LoggingSystem::TemporaryFile: cannot create the scratch log %s: %s",
+                 qUtf8Printable(fileTemplate()), qUtf8Printable(errorString()));
+    }
 }
 
 void TemporaryFile::update(void *)

@@ -57,20 +57,40 @@ QString settingsFileName()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/settings.ini");
 }
 
-// QSettings shares one parsed copy per file inside the process and re-reads it
-// only when the file changed on disk: a few microseconds per label, less than
-// the label's own local-time conversion (see bench/plot), so no cache of ours.
+namespace {
+// The axis type as last read or chosen; -1 until the file was read. Labels are
+// drawn at every replot and must not open the settings file each time; the menu
+// writes through setXPlotAxisType(), so its choice is seen at once.
+int cachedAxisType = -1;
+} // namespace
+
 int xPlotAxisType()
 {
-    QSettings settings(settingsFileName(), QSettings::IniFormat);
-    return settings.value(QLatin1String(kAxisTypeKey), 0).toInt();
+    if (cachedAxisType < 0) {
+        QSettings settings(settingsFileName(), QSettings::IniFormat);
+        cachedAxisType = settings.value(QLatin1String(kAxisTypeKey), 0).toInt();
+    }
+    return cachedAxisType;
+}
+
+void reloadXPlotAxisType()
+{
+    cachedAxisType = -1;
 }
 
 void setXPlotAxisType(int type)
 {
+    cachedAxisType = type;
     QSettings settings(settingsFileName(), QSettings::IniFormat);
     settings.setValue(QLatin1String(kAxisTypeKey), type);
     settings.sync();
+    // The choice holds for this run; say once why it will not survive it.
+    static bool warned = false;
+    if (settings.status() != QSettings::NoError && !warned) {
+        warned = true;
+        qCWarning(lcUtilsPlot, "Cannot write %s: the time axis format will not be kept",
+                  qUtf8Printable(settingsFileName()));
+    }
 }
 
 } // namespace PlotCommon

@@ -32,8 +32,10 @@ inline double smallSpanStep(double span)
 
 //! "<application dir>/settings.ini", the one INI file of the library.
 QString settingsFileName();
-//! plot/xPlotAxisType: 0 = "Time", 1 = "Date + Time"; 0 when missing.
+//! plot/xPlotAxisType: 0 = "Time", 1 = "Date + Time"; 0 when missing. Read once, then kept.
 int xPlotAxisType();
+//! Reads the file again at the next xPlotAxisType(), for changes made outside the axis menu.
+void reloadXPlotAxisType();
 void setXPlotAxisType(int type);
 
 } // namespace PlotCommon

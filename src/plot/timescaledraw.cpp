@@ -51,6 +51,11 @@ bool TimeScaleDraw::displayValue() const
     return m_bDisplayValue;
 }
 
+void TimeScaleDraw::vReloadSettings()
+{
+    PlotCommon::reloadXPlotAxisType();
+}
+
 void TimeScaleDraw::vRefresh()
 {
     invalidateCache();

@@ -30,6 +30,14 @@ public:
     //! Drops the cached labels, e.g. after the axis type changed.
     void vRefresh();
 
+    /*!
+        plot/xPlotAxisType is read once and then kept, so that drawing labels
+        never opens the settings file; the axis menu updates the kept value. A
+        host that writes the key with its own QSettings calls this afterwards
+        (and replots) to have the file read again.
+    */
+    static void vReloadSettings();
+
 private:
     bool m_bDisplayValue = false;
 };

@@ -156,6 +156,7 @@ void tst_Plot::init()
 {
     // Tests write the settings file next to the test binary: start and end clean.
     QFile::remove(settingsFile());
+    Utils::TimeScaleDraw::vReloadSettings();
     m_plot = showPlot(m_host);
 }
 
@@ -738,6 +739,7 @@ void tst_Plot::timeLabels()
     QFETCH(QString, format);
 
     writeAxisType(axisType);
+    Utils::TimeScaleDraw::vReloadSettings();
     const double start = 1700000000123.9; // fractions of a millisecond are truncated
     setView(*m_plot, QwtPlot::xBottom, start, start + span);
     const QString label = m_plot->poTimeScaleDraw()->label(start).text();
