@@ -362,7 +362,9 @@ void Plot::vSetZoomUnderMouse(bool zoomUnderMouse)
 
 void Plot::onSelected(const QPointF &pos)
 {
-    Q_EMIT getMouseCoordinate(pos.toPoint());
+    // Times on the bottom axis (ms since the epoch) do not fit an int: such
+    // coordinates are held at the int range rather than overflowing.
+    Q_EMIT getMouseCoordinate(QPoint(PlotCommon::toInt(pos.x()), PlotCommon::toInt(pos.y())));
 }
 
 void Plot::enableXAxisDisplayValue(bool displayValue)

@@ -7,6 +7,9 @@
 #include <QLoggingCategory>
 #include <QString>
 
+#include <algorithm>
+#include <cmath>
+
 Q_DECLARE_LOGGING_CATEGORY(lcUtilsPlot)
 
 namespace Utils {
@@ -28,6 +31,26 @@ double quietStep(double span);
 inline double smallSpanStep(double span)
 {
     return span >= 1.5 ? 0.5 : quietStep(span);
+}
+
+/*!
+    Pixel row or column of a transformed value as an int. Values far off the
+    canvas would overflow an int (undefined behaviour); they are held at +-1e7,
+    where they are still off screen. NaN gives 0.
+*/
+inline int toPixel(double pixel)
+{
+    if (std::isnan(pixel))
+        return 0;
+    return int(std::max(-1.0e7, std::min(pixel, 1.0e7)));
+}
+
+//! \a value rounded to the nearest int, held at the int range; NaN gives 0.
+inline int toInt(double value)
+{
+    if (std::isnan(value))
+        return 0;
+    return int(std::lround(std::max(-2147483648.0, std::min(value, 2147483647.0))));
 }
 
 //! "<application dir>/settings.ini", the one INI file of the library.

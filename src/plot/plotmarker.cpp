@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "plot/plotmarker.h"
 
+#include "plot/plotcommon_p.h"
 #include "plot/plotmarker_p.h"
 
 #include <qwt_plot.h>
@@ -21,18 +22,7 @@
 
 namespace Utils {
 
-namespace {
-
-// Pixel row or column of a transformed value. Values far off the canvas (or NaN)
-// would overflow an int; they are held where they are still off screen.
-int toPixel(double pixel)
-{
-    if (std::isnan(pixel))
-        return 0;
-    return int(std::max(-1.0e7, std::min(pixel, 1.0e7)));
-}
-
-} // namespace
+using PlotCommon::toPixel;
 
 struct PlotMarker::Private
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "thresholdwindowwidgetuniversal.h"
 
+#include "plot/plotcommon_p.h"
 #include "plot/plotmarker.h"
 
 #include <qwt_plot.h>
@@ -35,7 +36,7 @@ ThresholdWindowWidgetUniversal::ThresholdWindowWidgetUniversal(QwtPlot *plot, in
     d->sizeLabel = new QLabel(plot->canvas());
     d->sizeLabel->setObjectName(QStringLiteral("windowSizeLabel"));
     d->sizeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
-    d->sizeLabel->setStyleSheet(QStringLiteral("QLabel { background: rgba(255, 255, 255, 200); padding: 1px 3px; }"));
+    d->sizeLabel->setStyleSheet(QStringLiteral("QLabel { background: rgba(255, 255, 255, 220); border: 1px solid rgba(120, 120, 120, 160); padding: 1px 3px; }"));
     d->sizeLabel->hide();
     // The label sits between the marks: place it again when the canvas or the
     // value scale changes, not only when a mark moves.
@@ -183,10 +184,11 @@ void ThresholdWindowWidgetUniversal::zonesUpdated()
         return;
     }
     QwtPlot *plot = poPlot();
-    d->sizeLabel->setText(QString::number(windowSize(), 'f', d->oneDecimal ? 1 : 2));
+    // Says what the number is: it sits over the curve between the marks.
+    d->sizeLabel->setText(tr("Window %1").arg(windowSize(), 0, 'f', d->oneDecimal ? 1 : 2));
     d->sizeLabel->adjustSize();
     const double middle = (poUpperMark()->value() + poLowerMark()->value()) / 2.0;
-    const int y = int(plot->transform(QwtPlot::yLeft, middle)) - d->sizeLabel->height() / 2;
+    const int y = PlotCommon::toPixel(plot->transform(QwtPlot::yLeft, middle)) - d->sizeLabel->height() / 2;
     const int x = plot->canvas()->width() - d->sizeLabel->width() - 4;
     d->sizeLabel->move(std::max(x, 0), y);
     d->sizeLabel->show();

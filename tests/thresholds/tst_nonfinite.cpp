@@ -18,6 +18,7 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <climits>
 #include <cmath>
 #include <limits>
 
@@ -143,6 +144,7 @@ void tst_NonFinite::windowWidgets()
 
     Utils::ThresholdWindowWidgetGeneric generic(plot, 0);
     Utils::ThresholdWindowWidgetUniversal universal(plot, 1);
+    universal.setWindowSizeVisible(true);
     for (Utils::ThresholdWindowWidget *window :
          std::initializer_list<Utils::ThresholdWindowWidget *>{&generic, &universal}) {
         window->setLowerMark(100.0);
@@ -256,6 +258,14 @@ void tst_NonFinite::plotScale()
     plot->grab();
     dragMark(&marker, 60);
     QVERIFY(!anyNaN(markerSpy));
+
+    // A click picked on a time axis reports coordinates far beyond an int.
+    plot->setAxisScale(QwtPlot::xBottom, 1.7e12, 1.7e12 + 60000.0);
+    plot->vSetZoomUnderMouse(true);
+    QSignalSpy clicked(plot, &Utils::Plot::getMouseCoordinate);
+    QTest::mouseClick(plot->canvas(), Qt::LeftButton, Qt::NoModifier, centre);
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(clicked.first().first().toPoint().x(), INT_MAX);
 }
 
 QTEST_MAIN(tst_NonFinite)

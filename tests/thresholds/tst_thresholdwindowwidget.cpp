@@ -402,9 +402,9 @@ void tst_ThresholdWindowWidget::universalOperations()
     QVERIFY(label && !label->isVisible());
     universal.setWindowSizeVisible(true);
     QVERIFY(label->isVisible());
-    QCOMPARE(label->text(), QStringLiteral("22.50"));
+    QCOMPARE(label->text(), QStringLiteral("Window 22.50"));
     universal.formatText(true);
-    QCOMPARE(label->text(), QStringLiteral("22.5"));
+    QCOMPARE(label->text(), QStringLiteral("Window 22.5"));
     // Between the marks, also after the canvas grew.
     plot->resize(700, 600);
     QCoreApplication::processEvents();
