@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Do you want to save the settings ?</source>
-        <translation>Möchten Sie die Einstellungen speichern ?</translation>
+        <translation>Möchten Sie die Einstellungen speichern?</translation>
     </message>
 </context>
 <context>

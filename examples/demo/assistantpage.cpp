@@ -296,10 +296,26 @@ void AssistantPage::setGerman(bool german)
 
 void AssistantPage::showModel()
 {
-    QString text = tr("Page %1 of %2, kind code %3%4<br><br>")
+    // The manager classifies the current page by its object name (nisDefaultText).
+    QString kind;
+    switch (m_assistant->nisDefaultText()) {
+    case 1:
+        kind = tr("password change page");
+        break;
+    case 2:
+        kind = tr("save page");
+        break;
+    case 3:
+        kind = tr("teach-in page");
+        break;
+    default:
+        kind = tr("settings page");
+        break;
+    }
+    QString text = tr("Page %1 of %2: %3%4<br><br>")
                        .arg(m_assistant->currentPageIndex() + 1)
                        .arg(m_assistant->content().size())
-                       .arg(m_assistant->nisDefaultText())
+                       .arg(kind)
                        .arg(m_assistant->passwordPage() ? tr(" (password)") : QString());
     text += tr("Exposure: %1 ms<br>Laser: %2<br>Mode: %3<br>Sensitivity: %4")
                 .arg(m_assistant->exposure()->spinValue())

@@ -56,14 +56,29 @@ void CorePage::start()
 void CorePage::tick()
 {
     ++m_samples;
-    const double distance = 120.0 + QRandomGenerator::global()->bounded(40.0);
+    // The simulated sensor measures up to MaxDistance; now and then a part
+    // passes beyond it, and a reply gets lost on the line.
+    constexpr double MaxDistance = 150.0;
+    const double distance = 115.0 + QRandomGenerator::global()->bounded(40.0);
+    const bool lost = QRandomGenerator::global()->bounded(25) == 0;
     m_log->vLog(Log::eDebug, "Sensor", "distance %.1f mm", distance);
     // vLog composes and drops its line; a host hands finished lines to listeners itself.
+    QString level = QStringLiteral("INFO");
+    QString message = QStringLiteral("sample %1: distance %2 mm").arg(m_samples).arg(distance, 0, 'f', 1);
+    if (lost) {
+        level = QStringLiteral("WARNING");
+        message = QStringLiteral("sample %1: no reply from the sensor within 50 ms").arg(m_samples);
+    } else if (distance > MaxDistance) {
+        level = QStringLiteral("WARNING");
+        message = QStringLiteral("sample %1: distance %2 mm beyond the measuring range (%3 mm)")
+                      .arg(m_samples)
+                      .arg(distance, 0, 'f', 1)
+                      .arg(MaxDistance, 0, 'f', 0);
+    }
     const QDateTime now = QDateTime::currentDateTime();
     const QString line = now.toString(QStringLiteral("hh:mm:ss.zzz")) + QStringLiteral(" | ")
-        + now.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral(" | ")
-        + (m_samples % 10 == 0 ? QStringLiteral("WARNING") : QStringLiteral("INFO")) + QStringLiteral(" | Sensor | ")
-        + QStringLiteral("sample %1: distance %2 mm").arg(m_samples).arg(distance, 0, 'f', 1);
+        + now.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral(" | ") + level + QStringLiteral(" | Sensor | ")
+        + message;
     Q_EMIT m_log->emitLastLogged(line);
     if (m_scratch->isOpen())
         m_scratch->write(line.toUtf8() + '\n');

@@ -35,6 +35,9 @@ PlotPage::PlotPage(QWidget *parent)
     m_plot->setObjectName(QStringLiteral("distancePlot"));
     m_plot->setAxisTitle(QwtPlot::yLeft, tr("Distance [mm]"));
     m_plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0);
+    // Until data comes, the time axis shows the window that is coming instead of the epoch.
+    const double now = double(QDateTime::currentMSecsSinceEpoch());
+    m_plot->QwtPlot::setAxisScale(QwtPlot::xBottom, now - WindowMs, now);
     m_plot->setMinimumSize(400, 250);
     m_curve->setPen(QColor(94, 137, 206), 2.0);
     m_curve->setRenderHint(QwtPlotItem::RenderAntialiased);
@@ -70,7 +73,8 @@ PlotPage::PlotPage(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(tr("Simulated laser distance over the last 50 seconds. Wheel: zoom; left drag: zoom "
                                     "to a rectangle; right drag: pan; double click: reset; right click on the time "
-                                    "axis: time format. Drag the two dashed markers."),
+                                    "axis: time format. Drag the red (upper) and the green (lower) marker line; the "
+                                    "hatched band beside each line is its hysteresis."),
                                  this));
     layout->itemAt(0)->widget()->setProperty("wordWrap", true);
     layout->addWidget(m_plotWithButtons, 1);

@@ -46,6 +46,9 @@ ThresholdPage::ThresholdPage(QWidget *parent)
     m_plot->setObjectName(QStringLiteral("distanceChart"));
     m_plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0);
     m_plot->setAxisTitle(QwtPlot::yLeft, tr("Distance [mm]"));
+    // Until data comes, the time axis shows the coming window instead of the epoch.
+    const double now = double(QDateTime::currentMSecsSinceEpoch());
+    m_plot->setAxisScale(QwtPlot::xBottom, now, now + MaxSamples * 50.0);
     m_curve->setPen(QColor(94, 137, 206), 2.0);
     m_curve->setRenderHint(QwtPlotItem::RenderAntialiased);
     m_curve->attach(m_plot);
@@ -112,8 +115,10 @@ void ThresholdPage::tick()
     if (m_samples.size() > MaxSamples)
         m_samples.remove(0, m_samples.size() - MaxSamples);
     m_curve->setSamples(m_samples);
+    // The view starts where the data starts and scrolls once the window is full.
     const double last = m_samples.last().x();
-    m_plot->setAxisScale(QwtPlot::xBottom, last - MaxSamples * 50.0, last);
+    const double first = std::min(m_samples.first().x(), last - 1000.0);
+    m_plot->setAxisScale(QwtPlot::xBottom, first, std::max(last, first + MaxSamples * 50.0));
     m_plot->replot();
     showOutputState();
 }

@@ -250,7 +250,7 @@ QtObject {
     manager.translate();
     QCoreApplication::removeTranslator(&german);
     QCOMPARE(view->property("title").toString(), QStringLiteral("Speichern"));
-    QCOMPARE(view->property("question").toString(), QStringLiteral("Möchten Sie die Einstellungen speichern ?"));
+    QCOMPARE(view->property("question").toString(), QStringLiteral("Möchten Sie die Einstellungen speichern?"));
     QCOMPARE(view->property("titleChanges").toInt(), 1);
 }
 

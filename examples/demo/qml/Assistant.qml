@@ -207,16 +207,22 @@ Rectangle {
             Layout.fillWidth: true
             Button {
                 text: qsTranslate("AssistantManager", "Back")
+                leftPadding: 16
+                rightPadding: 16
                 enabled: root.pageIndex > 0
                 onClicked: root.pageIndex -= 1
             }
             Button {
                 text: qsTranslate("AssistantManager", "Reset")
+                leftPadding: 16
+                rightPadding: 16
                 onClicked: assistant.resetView()
             }
             Item { Layout.fillWidth: true }
             Button {
-                // On the closing page (kind code 2) the forward button saves.
+                // On the closing page (the save page) the forward button saves.
+                leftPadding: 16
+                rightPadding: 16
                 text: root.kind === 2 ? qsTranslate("AssistantManager", "Save")
                                       : qsTranslate("AssistantManager", "Next")
                 highlighted: true
