@@ -19,14 +19,12 @@ struct ValueOverTime::Private
 
 ValueOverTime::ValueOverTime()
     : d(new Private)
-{
-}
+{ }
 
 ValueOverTime::ValueOverTime(const ValueOverTime &other)
     : QObject()
     , d(new Private(*other.d))
-{
-}
+{ }
 
 ValueOverTime &ValueOverTime::operator=(const ValueOverTime &other)
 {
