@@ -55,8 +55,11 @@ public:
     //! Makes sure \a count more bytes fit and returns where they go.
     char *room(int count)
     {
-        if (m_used + count > m_bytes.size())
-            m_bytes.resize(std::max(m_used + count, m_bytes.size() * 2));
+        if (m_used + count > m_bytes.size()) {
+            // Doubling, held below what a QByteArray can address.
+            const qint64 wanted = std::max<qint64>(qint64(m_used) + count, qint64(m_bytes.size()) * 2);
+            m_bytes.resize(int(std::min<qint64>(wanted, std::numeric_limits<int>::max() - 64)));
+        }
         return m_bytes.data() + m_used;
     }
     void commit(const char *end) { m_used = int(end - m_bytes.constData()); }
