@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The smallest host: one header of every subsystem from the installed tree.
 #include <utils/assistant/element.h>
+#include <utils/charts/valueovertime.h>
 #include <utils/core/log.h>
 #include <utils/core/observer.h>
 #include <utils/plot/plot.h>
@@ -49,10 +50,14 @@ int main(int argc, char **argv)
     Utils::TamarindProtocolHeader header(std::string("0201050014000300FF000000"));
     Assistant::Element::registerQmlElement();
 
+    Utils::ValueOverTime series;
+    series.vAppend(5.0, 1000.0);
+    series.vAppend(5.0, 1000.0);
+
     std::printf("consumer ok %d %d %s %s\n", counter.calls, painted ? 1 : 0,
                 thresholds.toHexString(Utils::ThresholdsData::Red).c_str(), Utils::oVersionString());
     return counter.calls == 1 && painted && logged && header.u16ProtocolLenght() == 20
-                   && Utils::u32Version() == UTILS_VERSION
+                   && Utils::u32Version() == UTILS_VERSION && series.size() == 1
                ? 0
                : 1;
 }

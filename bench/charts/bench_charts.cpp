@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The live chart appends every sample to a ValueOverTime and trims it at
+// 900,000 samples; the export dialog turns up to 900,000 rows into CSV text.
+// This program shows how fast both are, that neither allocates per sample or
+// per cell, and how the export compares with a plain C loop writing the same
+// text with localtime_r, strftime and snprintf. One line per figure; each
+// time is the best of a few runs, so that a busy machine disturbs it less.
+#include <charts/exportdialog.h>
+#include <charts/valueovertime.h>
+
+#include <QApplication>
+#include <QByteArray>
+#include <QFile>
+#include <QList>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <new>
+#include <vector>
+
+// Every heap allocation of the process is counted: operator new here, and on
+// glibc malloc and realloc too, through which Qt's containers allocate.
+namespace {
+std::atomic<long long> g_allocations { 0 };
+}
+
+#if defined(__GLIBC__)
+extern "C" {
+void *__libc_malloc(size_t size);
+void *__libc_calloc(size_t count, size_t size);
+void *__libc_realloc(void *pointer, size_t size);
+void __libc_free(void *pointer);
+
+void *malloc(size_t size)
+{
+    g_allocations.fetch_add(1, std::memory_order_relaxed);
+    return __libc_malloc(size);
+}
+void *calloc(size_t count, size_t size)
+{
+    g_allocations.fetch_add(1, std::memory_order_relaxed);
+    return __libc_calloc(count, size);
+}
+void *realloc(void *pointer, size_t size)
+{
+    g_allocations.fetch_add(1, std::memory_order_relaxed);
+    return __libc_realloc(pointer, size);
+}
+void free(void *pointer)
+{
+    __libc_free(pointer);
+}
+}
+#define UTILS_BENCH_RAW_MALLOC __libc_malloc
+#define UTILS_BENCH_RAW_FREE __libc_free
+#define UTILS_BENCH_COUNTS "operator new, malloc, calloc, realloc"
+#else
+#define UTILS_BENCH_RAW_MALLOC std::malloc
+#define UTILS_BENCH_RAW_FREE std::free
+#define UTILS_BENCH_COUNTS "operator new"
+#endif
+
+void *operator new(size_t size)
+{
+    g_allocations.fetch_add(1, std::memory_order_relaxed);
+    if (void *pointer = UTILS_BENCH_RAW_MALLOC(size ? size : 1))
+        return pointer;
+    throw std::bad_alloc();
+}
+void *operator new[](size_t size)
+{
+    return operator new(size);
+}
+void operator delete(void *pointer) noexcept
+{
+    UTILS_BENCH_RAW_FREE(pointer);
+}
+void operator delete[](void *pointer) noexcept
+{
+    UTILS_BENCH_RAW_FREE(pointer);
+}
+void operator delete(void *pointer, size_t) noexcept
+{
+    UTILS_BENCH_RAW_FREE(pointer);
+}
+void operator delete[](void *pointer, size_t) noexcept
+{
+    UTILS_BENCH_RAW_FREE(pointer);
+}
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kHistory = 900000; // the live chart's cap
+constexpr int kTrim = 225000; // what it drops at the cap
+constexpr int kSeries = 4;
+constexpr int kPrecision = 3;
+constexpr double kStart = 1763057585250.0; // 13-11-2025, a working day
+
+double seconds(Clock::time_point since)
+{
+    return std::chrono::duration<double>(Clock::now() - since).count();
+}
+
+//! Best wall time of \a runs calls of \a work, in seconds.
+double best(int runs, const std::function<void()> &work)
+{
+    double fastest = 1e30;
+    for (int run = 0; run < runs; ++run) {
+        const auto start = Clock::now();
+        work();
+        fastest = std::min(fastest, seconds(start));
+    }
+    return fastest;
+}
+
+//! Stands in for a plot curve: takes the arrays, as CustomCurve::vUpdateData does.
+class Curve : public QObject
+{
+    Q_OBJECT
+
+public:
+    const double *x = nullptr;
+    int count = 0;
+
+public Q_SLOTS:
+    void vUpdateData(const double *xs, const double *, int n)
+    {
+        x = xs;
+        count = n;
+    }
+};
+
+void benchAppend()
+{
+    // Filling a fresh series to the cap: geometric growth, a few reallocations.
+    long long fillAllocations = 0;
+    const double fill = best(3, [&]() {
+        Utils::ValueOverTime series;
+        Curve curve;
+        QObject::connect(&series, SIGNAL(vDataUpdated(const double *, const double *, const int)), &curve,
+            SLOT(vUpdateData(const double *, const double *, int)));
+        const long long before = g_allocations.load();
+        for (int i = 0; i < kHistory; ++i)
+            series.vAppend(std::sin(i * 0.001), kStart + i);
+        fillAllocations = g_allocations.load() - before;
+    });
+    std::printf("ValueOverTime fill to %d samples (curve connected): %.1f M appends/s, %.1f allocations per 1e6 "
+                "appends\n",
+        kHistory, kHistory / fill / 1e6, fillAllocations * 1e6 / kHistory);
+
+    // The chart's steady state: append, and trim by 225,000 on reaching 900,000.
+    Utils::ValueOverTime series;
+    Curve curve;
+    QObject::connect(&series, SIGNAL(vDataUpdated(const double *, const double *, const int)), &curve,
+        SLOT(vUpdateData(const double *, const double *, int)));
+    double t = kStart;
+    auto run = [&](int appends) {
+        for (int i = 0; i < appends; ++i) {
+            series.vAppend(std::sin(t * 0.001), t);
+            t += 1.0;
+            if (series.size() > kHistory)
+                series.vEraseFirstValues(kTrim);
+        }
+    };
+    run(2 * kHistory); // reach the working size
+    const int appends = 10000000;
+    long long steadyAllocations = 0;
+    const double steady = best(3, [&]() {
+        const long long before = g_allocations.load();
+        run(appends);
+        steadyAllocations = g_allocations.load() - before;
+    });
+    std::printf("ValueOverTime steady state, trimmed by %d at %d (curve connected): %.1f M appends/s, %.2f "
+                "allocations per 1e6 appends\n",
+        kTrim, kHistory, appends / steady / 1e6, steadyAllocations * 1e6 / appends);
+}
+
+//! Reaches the protected export step.
+class Export : public Utils::ExportDialog
+{
+public:
+    using Utils::ExportDialog::ExportDialog;
+    using Utils::ExportDialog::oExportData;
+};
+
+long long statusKiB(const char *field)
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    const QByteArray key = QByteArray(field) + ':';
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith(key))
+            return line.mid(key.size()).trimmed().split(' ').value(0).toLongLong();
+    }
+    return -1;
+}
+
+//! Lowers VmHWM to the present VmRSS (Linux), so the next peak is the export's own.
+bool resetPeak()
+{
+    std::FILE *refs = std::fopen("/proc/self/clear_refs", "w");
+    if (!refs)
+        return false;
+    const bool done = std::fputs("5", refs) >= 0;
+    return std::fclose(refs) == 0 && done;
+}
+
+//! The same text the plain C way: localtime_r, strftime and snprintf per row.
+size_t plainExport(const std::vector<std::vector<double>> &ys, const std::vector<double> &xs, char *out)
+{
+    char *p = out;
+    p += std::sprintf(p, "Distance,Signal,Quality,Temperature\n");
+    for (size_t row = 0; row < xs.size(); ++row) {
+        if (ys[0][row] == -1000.0)
+            continue;
+        const long long ms = (long long)xs[row];
+        const std::time_t second = std::time_t(ms / 1000);
+        std::tm local;
+        localtime_r(&second, &local);
+        p += std::strftime(p, 32, "%d-%m-%Y %H:%M:%S", &local);
+        p += std::sprintf(p, ".%03d", int(ms % 1000));
+        for (const std::vector<double> &column : ys)
+            p += std::sprintf(p, ",%.*f", kPrecision, column[row]);
+        *p++ = '\n';
+    }
+    return size_t(p - out);
+}
+
+void benchExport(double stepMs, bool withPeer)
+{
+    std::vector<std::unique_ptr<Utils::ValueOverTime>> owned;
+    QList<const Utils::ValueOverTime *> data;
+    std::vector<std::vector<double>> ys(kSeries);
+    std::vector<double> xs;
+    for (int s = 0; s < kSeries; ++s) {
+        owned.emplace_back(new Utils::ValueOverTime);
+        owned.back()->reserve(kHistory);
+        for (int i = 0; i < kHistory; ++i) {
+            // Distances in mm with noise, never exactly halfway at 3 decimals.
+            const double y = 250.0 * (s + 1) * std::sin(i * 0.0007 + s) + 0.1234567 * (i % 97);
+            const double x = kStart + i * stepMs;
+            owned.back()->vAppend(y, x);
+            ys[s].push_back(y);
+            if (s == 0)
+                xs.push_back(x);
+        }
+        data << owned.back().get();
+    }
+    QList<QString> headers { "Distance", "Signal", "Quality", "Temperature" };
+    Export dialog(&data, &headers);
+    dialog.setPrecision(kPrecision);
+
+    QByteArray text;
+    long long allocations = 0;
+    const long long rssBefore = statusKiB("VmRSS");
+    const bool peakReset = resetPeak();
+    const double ours = best(3, [&]() {
+        text = QByteArray(); // the previous run's text is not part of this run's peak
+        const long long before = g_allocations.load();
+        text = dialog.oExportData(0, -1);
+        allocations = g_allocations.load() - before;
+    });
+    const long long peak = statusKiB("VmHWM");
+    char label[64];
+    std::snprintf(label, sizeof label, "%g ms apart", stepMs);
+    std::printf("CSV export %d rows x %d series, precision %d, %s: %.2f M rows/s, %.1f MB text, %lld allocations "
+                "(%.5f per row)",
+        kHistory, kSeries, kPrecision, label, kHistory / ours / 1e6, text.size() / 1e6, allocations,
+        double(allocations) / kHistory);
+    if (peakReset && peak > 0 && rssBefore > 0)
+        std::printf(", peak memory +%.1f MB over the series", (peak - rssBefore) * 1024.0 / 1e6);
+    std::printf("\n");
+
+    if (!withPeer)
+        return;
+    std::vector<char> buffer(size_t(text.size()) + 4096);
+    size_t length = 0;
+    const double plain = best(3, [&]() { length = plainExport(ys, xs, buffer.data()); });
+    const bool same = length == size_t(text.size()) && std::memcmp(buffer.data(), text.constData(), length) == 0;
+    std::printf("Plain C loop (localtime_r, strftime, snprintf), same rows: %.2f M rows/s; export is %.2fx its "
+                "speed; same text: %s\n",
+        kHistory / plain / 1e6, plain / ours, same ? "yes" : "NO");
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    std::printf("Allocations counted: %s\n", UTILS_BENCH_COUNTS);
+    benchAppend();
+    // A sensor at 500 Hz: many rows share a second.
+    benchExport(2.0, true);
+    // The worst case for the per-second cache: every row in a new second.
+    benchExport(1001.0, true);
+    return 0;
+}
+
+#include "bench_charts.moc"

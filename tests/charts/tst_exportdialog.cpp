@@ -1,0 +1,592 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <charts/exportdialog.h>
+#include <charts/valueovertime.h>
+
+#include "modaldialogdriver.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDateTime>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextEdit>
+#include <QTranslator>
+
+#include <cmath>
+#include <ctime>
+#include <limits>
+#include <memory>
+#include <vector>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+using Utils::ExportDialog;
+using Utils::ValueOverTime;
+
+namespace {
+
+using Samples = QVector<QPointF>; // (x, y)
+using SeriesList = QVector<Samples>;
+
+const QString timeFormat = QStringLiteral("dd-MM-yyyy hh:mm:ss.zzz");
+const double kNaN = std::numeric_limits<double>::quiet_NaN();
+const double kInf = std::numeric_limits<double>::infinity();
+
+//! Reaches the protected steps of the export.
+class Probe : public ExportDialog
+{
+public:
+    using ExportDialog::bSaveToFile;
+    using ExportDialog::ExportDialog;
+    using ExportDialog::oExportData;
+};
+
+//! The series a dialog exports, and the list it is given.
+struct Columns
+{
+    explicit Columns(const SeriesList &samples)
+    {
+        for (const Samples &points : samples) {
+            owned.emplace_back(new ValueOverTime);
+            for (const QPointF &point : points)
+                owned.back()->vAppend(point.y(), point.x());
+            list << owned.back().get();
+        }
+    }
+    std::vector<std::unique_ptr<ValueOverTime>> owned;
+    QList<const ValueOverTime *> list;
+};
+
+//! Local time in ms since the epoch.
+double at(int day, int month, int year, int hour, int minute, int second, int ms)
+{
+    return double(QDateTime(QDate(year, month, day), QTime(hour, minute, second, ms)).toMSecsSinceEpoch());
+}
+
+const double T = at(13, 11, 2026, 18, 13, 5, 250);
+
+template <typename T> T *child(QWidget *dialog, const char *name)
+{
+    auto *widget = dialog->findChild<T *>(QLatin1String(name));
+    if (!widget)
+        qFatal("no %s", name);
+    return widget;
+}
+
+/*!
+    Clicks the separator boxes into the state \a boxes names (t tab, c comma,
+    s semicolon, p space, o other) and types \a other into the free field.
+*/
+void chooseSeparators(QWidget *dialog, const QString &boxes, const QString &other)
+{
+    auto *field = child<QLineEdit>(dialog, "LN_Other");
+    field->setText(other);
+    const std::pair<const char *, QChar> map[]
+        = { { "CB_Tab", 't' }, { "CB_Comma", 'c' }, { "CB_Semicolon", 's' }, { "CB_Space", 'p' }, { "CB_Other", 'o' } };
+    for (const auto &entry : map) {
+        auto *box = child<QCheckBox>(dialog, entry.first);
+        if (box->isChecked() == boxes.contains(entry.second))
+            continue;
+        QStyleOptionButton option;
+        option.initFrom(box);
+        const QRect indicator = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box);
+        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, indicator.center());
+    }
+}
+
+/*!
+    Answers the next file dialog with \a path, typed into its name field, and
+    confirms the overwrite question when \a path exists. \a checks sees the
+    dialog before.
+*/
+std::shared_ptr<bool> answerFileDialog(const QString &path, std::function<void(QFileDialog *)> checks = {})
+{
+    return TestSupport::whenModal<QFileDialog>([=](QFileDialog *dialog) {
+        if (checks)
+            checks(dialog);
+        if (QFile::exists(path)) {
+            TestSupport::whenModal<QMessageBox>([](QMessageBox *box) { box->button(QMessageBox::Yes)->click(); });
+        }
+        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        name->setText(path);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+//! What the time cell must read: QDateTime's local time is the reference.
+QString qtTime(double ms)
+{
+    return QDateTime::fromMSecsSinceEpoch(qint64(ms)).toString(timeFormat);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Samples)
+Q_DECLARE_METATYPE(SeriesList)
+
+class tst_ExportDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void texts_data();
+    void texts();
+    void csvText_data();
+    void csvText();
+    void numberFormat_data();
+    void numberFormat();
+    void localTime_data();
+    void localTime();
+    void rows_data();
+    void rows();
+    void withoutDataAcceptsAtOnce();
+    void saveThroughDialog();
+    void saveFailure_data();
+    void saveFailure();
+
+private:
+    QByteArray m_tz;
+};
+
+void tst_ExportDialog::initTestCase()
+{
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    m_tz = qgetenv("TZ");
+}
+
+void tst_ExportDialog::cleanup()
+{
+    if (m_tz.isNull())
+        qunsetenv("TZ");
+    else
+        qputenv("TZ", m_tz);
+    tzset();
+}
+
+void tst_ExportDialog::texts_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QString>("english");
+    QTest::addColumn<QString>("german");
+
+    QTest::newRow("window") << "ExportDialog"
+                            << "Utils::ExportDialog" << QByteArray("windowTitle") << "Dialog"
+                            << "Dialog";
+    QTest::newRow("separator group") << "GB_Separator"
+                                     << "QGroupBox" << QByteArray("title") << "Separated by"
+                                     << "Getrennt durch";
+    QTest::newRow("tab") << "CB_Tab"
+                         << "QCheckBox" << QByteArray("text") << "Tab"
+                         << "Tabulator";
+    QTest::newRow("semicolon") << "CB_Semicolon"
+                               << "QCheckBox" << QByteArray("text") << "Semicolon"
+                               << "Semikolon";
+    QTest::newRow("space") << "CB_Space"
+                           << "QCheckBox" << QByteArray("text") << "Space"
+                           << "Leerzeichen";
+    QTest::newRow("comma") << "CB_Comma"
+                           << "QCheckBox" << QByteArray("text") << "Comma"
+                           << "Komma";
+    QTest::newRow("other") << "CB_Other"
+                           << "QCheckBox" << QByteArray("text") << "Other"
+                           << "Andere";
+    QTest::newRow("location group") << "GB_Location"
+                                    << "QGroupBox" << QByteArray("title") << "Location"
+                                    << "Speicherort";
+    QTest::newRow("select") << "PB_Select"
+                            << "QPushButton" << QByteArray("text") << "Select"
+                            << "Auswählen";
+    QTest::newRow("preview group") << "GB_OutputPreview"
+                                   << "QGroupBox" << QByteArray("title") << "Output Preview"
+                                   << "Ausgabevorschau";
+    QTest::newRow("preview") << "TB_OutputPreview"
+                             << "QTextEdit" << QByteArray("plainText") << "\n"
+                             << "\n";
+    QTest::newRow("comma at start") << "CB_Comma"
+                                    << "QCheckBox" << QByteArray("checked") << "true"
+                                    << "true";
+}
+
+void tst_ExportDialog::texts()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, kind);
+    QFETCH(QByteArray, property);
+    QFETCH(QString, english);
+    QFETCH(QString, german);
+
+    Columns columns(SeriesList {});
+    QList<QString> headers;
+    ExportDialog dialog(&columns.list, &headers);
+    QWidget *widget = name == dialog.objectName() ? &dialog : dialog.findChild<QWidget *>(name);
+    QVERIFY(widget);
+    QVERIFY(widget->inherits(kind.toLatin1()));
+    QCOMPARE(widget->property(property).toString(), english);
+
+    QTranslator translator;
+    QVERIFY(translator.load(QStringLiteral(":/translations/utils_de.qm")));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    // The language change reaches the dialog as a posted event.
+    QTRY_COMPARE(widget->property(property).toString(), german);
+    QCoreApplication::removeTranslator(&translator);
+    QTRY_COMPARE(widget->property(property).toString(), english);
+}
+
+void tst_ExportDialog::csvText_data()
+{
+    QTest::addColumn<SeriesList>("series");
+    QTest::addColumn<QStringList>("headers");
+    QTest::addColumn<QString>("boxes");
+    QTest::addColumn<QString>("other");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<QByteArray>("expected");
+
+    const QStringList two { "Distance", "Signal" };
+    QTest::newRow("two series, semicolon, 2 decimals")
+        << SeriesList { { { T, 12.5 } }, { { T, 7.0 } } } << two << "s"
+        << "" << 2 << QByteArray("Distance;Signal\n13-11-2026 18:13:05.250;12.50;7.00\n");
+    QTest::newRow("time truncated to whole ms")
+        << SeriesList { { { T + 0.999, 1 }, { T + 999.9, 2 } } } << QStringList() << "c"
+        << "" << 0 << QByteArray("\n13-11-2026 18:13:05.250,1\n13-11-2026 18:13:06.249,2\n");
+    QTest::newRow("-1000 in series 0 leaves the row out")
+        << SeriesList { { { T, 1 }, { T + 1000, -1000 }, { T + 2000, 3 } },
+               { { T, 10 }, { T + 1000, 20 }, { T + 2000, 30 } } }
+        << two << "c"
+        << "" << 0 << QByteArray("Distance,Signal\n13-11-2026 18:13:05.250,1,10\n13-11-2026 18:13:07.250,3,30\n");
+    QTest::newRow("-1000 elsewhere is a value")
+        << SeriesList { { { T, -1500 } }, { { T, -1000 } } } << two << "c"
+        << "" << 1 << QByteArray("Distance,Signal\n13-11-2026 18:13:05.250,-1500.0,-1000.0\n");
+    QTest::newRow("shorter series leave empty cells")
+        << SeriesList { { { T, 1 }, { T + 1000, 2 }, { T + 2000, 3 } }, { { T, 4 } }, { { T, 5 }, { T + 1000, 6 } } }
+        << QStringList { "a", "b", "c" } << "c"
+        << "" << 0
+        << QByteArray("a,b,c\n13-11-2026 18:13:05.250,1,4,5\n13-11-2026 18:13:06.250,2,,6\n"
+                      "13-11-2026 18:13:07.250,3,,\n");
+    QTest::newRow("series 0 decides the rows")
+        << SeriesList { { { T, 1 } }, { { T, 4 }, { T + 1000, 5 } } } << two << "c"
+        << "" << 0 << QByteArray("Distance,Signal\n13-11-2026 18:13:05.250,1,4\n");
+    QTest::newRow("more titles than series") << SeriesList { { { T, 1 } } } << QStringList { "a", "b", "c" } << "s"
+                                             << "" << 0 << QByteArray("a;b;c\n13-11-2026 18:13:05.250;1\n");
+    QTest::newRow("UTF-8 titles") << SeriesList { { { T, 1 } } } << QStringList { "Höhe", "µm" } << "c"
+                                  << "" << 0 << QString("Höhe,µm\n13-11-2026 18:13:05.250,1\n").toUtf8();
+    QTest::newRow("no separator") << SeriesList { { { T, 1 } }, { { T, 2 } } } << two << ""
+                                  << "" << 0 << QByteArray("DistanceSignal\n13-11-2026 18:13:05.25012\n");
+    QTest::newRow("all separators in fixed order")
+        << SeriesList { { { T, 1 } }, { { T, 2 } } } << two << "opstc"
+        << "|" << 0 << QByteArray("Distance\t,; |Signal\n13-11-2026 18:13:05.250\t,; |1\t,; |2\n");
+    QTest::newRow("other text through Latin-1")
+        << SeriesList { { { T, 1 } } } << QStringList() << "o" << QString::fromUtf8("€§") << 0
+        << QString("\n13-11-2026 18:13:05.250?§1\n").toUtf8();
+    QTest::newRow("other text unused when unchecked") << SeriesList { { { T, 1 } } } << QStringList() << "c"
+                                                      << "|" << 0 << QByteArray("\n13-11-2026 18:13:05.250,1\n");
+    QTest::newRow("non-finite values") << SeriesList { { { T, kNaN } }, { { T, kInf } }, { { T, -kInf } } }
+                                       << QStringList() << "c"
+                                       << "" << 2 << QByteArray("\n13-11-2026 18:13:05.250,nan,inf,-inf\n");
+    QTest::newRow("non-finite or huge times")
+        << SeriesList { { { kNaN, 1 }, { kInf, 2 }, { -1e19, 3 } } } << QStringList() << "c"
+        << "" << 0 << QByteArray("\n,1\n,2\n,3\n");
+    QTest::newRow("before 1970 and after 2037")
+        << SeriesList { { { at(11, 7, 1969, 10, 20, 0, 5), 1 }, { at(30, 6, 2100, 2, 53, 20, 999), 2 } } }
+        << QStringList() << "c"
+        << "" << 0 << QByteArray("\n11-07-1969 10:20:00.005,1\n30-06-2100 02:53:20.999,2\n");
+}
+
+void tst_ExportDialog::csvText()
+{
+    QFETCH(SeriesList, series);
+    QFETCH(QStringList, headers);
+    QFETCH(QString, boxes);
+    QFETCH(QString, other);
+    QFETCH(int, precision);
+    QFETCH(QByteArray, expected);
+
+    Columns columns(series);
+    QList<QString> titles = headers;
+    Probe dialog(&columns.list, &titles);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    chooseSeparators(&dialog, boxes, other);
+    dialog.setPrecision(precision);
+
+    QCOMPARE(dialog.oExportData(0, -1), expected);
+    // All of these fit the preview, which follows every change of the form.
+    QCOMPARE(child<QTextEdit>(&dialog, "TB_OutputPreview")->toPlainText(), QString::fromUtf8(expected));
+}
+
+void tst_ExportDialog::numberFormat_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("precision");
+
+    QTest::newRow("negative") << -123.456 << 3;
+    QTest::newRow("tie away from zero, not to even") << 0.125 << 2;
+    QTest::newRow("tie without decimals") << 2.5 << 0;
+    QTest::newRow("negative half") << -0.5 << 0;
+    QTest::newRow("tie carrying into a new digit") << 9.5 << 0;
+    QTest::newRow("negative tie carrying") << -99.5 << 0;
+    QTest::newRow("tie at 4 decimals with carry") << 9.96875 << 4;
+    QTest::newRow("tie above 2^52") << 4503599627370496.5 << 0;
+    QTest::newRow("negative zero") << -0.0 << 3;
+    QTest::newRow("small negative to zero") << -0.0001 << 3;
+    QTest::newRow("large") << 1e300 << 3;
+    QTest::newRow("smallest subnormal") << std::numeric_limits<double>::denorm_min() << 3;
+    QTest::newRow("17 decimals") << 0.1 << 17;
+    QTest::newRow("negative precision means 6") << 1.0 / 3.0 << -1;
+    QTest::newRow("all decimals of the smallest subnormal") << std::numeric_limits<double>::denorm_min() << 1074;
+    QTest::newRow("tie at the last decimal a double has") << std::numeric_limits<double>::denorm_min() << 1073;
+}
+
+void tst_ExportDialog::numberFormat()
+{
+    QFETCH(double, value);
+    QFETCH(int, precision);
+
+    Columns columns(SeriesList { { { T, value } } });
+    QList<QString> headers;
+    Probe dialog(&columns.list, &headers);
+    dialog.setPrecision(precision);
+    const QByteArray text = dialog.oExportData(0, -1);
+    const QByteArray prefix = "\n13-11-2026 18:13:05.250,";
+    QVERIFY(text.startsWith(prefix));
+    QVERIFY(text.endsWith('\n'));
+    const QString cell = QString::fromLatin1(text.mid(prefix.size()).chopped(1));
+    QCOMPARE(cell, QString::number(value, 'f', precision));
+}
+
+void tst_ExportDialog::localTime_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<double>("start");
+    QTest::addColumn<double>("step");
+
+    // POSIX rules need no time zone database.
+    const QByteArray europe = "CET-1CEST,M3.5.0,M10.5.0/3";
+    QTest::newRow("UTC") << QByteArray("UTC0") << 1763057585250.0 << 250.5;
+    QTest::newRow("spring forward") << europe << 1774745998000.0 - 0.5 << 250.0;
+    QTest::newRow("fall back") << europe << 1792889998000.0 << 250.0;
+    QTest::newRow("southern hemisphere") << QByteArray("AEST-10AEDT,M10.1.0,M4.1.0/3") << 1775318398000.0 << 250.0;
+    QTest::newRow("before 1970") << europe << -1500.75 << 250.0;
+    QTest::newRow("across 2038") << europe << 2145916798000.0 << 250.0;
+}
+
+void tst_ExportDialog::localTime()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(double, start);
+    QFETCH(double, step);
+
+    qputenv("TZ", zone);
+    tzset();
+    Samples samples;
+    QStringList expected { QString() };
+    for (int i = 0; i < 24; ++i) {
+        samples << QPointF(start + i * step, double(i));
+        expected << qtTime(start + i * step) + QLatin1Char(',') + QString::number(i);
+    }
+    expected << QString();
+    Columns columns(SeriesList { samples });
+    QList<QString> headers;
+    Probe dialog(&columns.list, &headers);
+    QCOMPARE(QString::fromLatin1(dialog.oExportData(0, -1)).split(QLatin1Char('\n')), expected);
+}
+
+void tst_ExportDialog::rows_data()
+{
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<int>("skipped"); // the sample whose value is -1000
+    QTest::addColumn<int>("first"); // with last: the rows passed to oExportData
+    QTest::addColumn<int>("last"); // both -2: the preview
+    QTest::addColumn<QList<int>>("shown");
+
+    const QList<int> ten { 0, 1, 2, 3, 4, 5, 6, 7, 8, 9 };
+    QTest::newRow("preview of ten: all") << 10 << -1 << -2 << -2 << ten;
+    QTest::newRow("preview of eleven: the first ten") << 11 << -1 << -2 << -2 << ten;
+    // Ten samples, not ten lines: a left-out row is not made up for.
+    QTest::newRow("preview with a -1000 row") << 11 << 3 << -2 << -2 << QList<int> { 0, 1, 2, 4, 5, 6, 7, 8, 9 };
+    QTest::newRow("first below 0") << 3 << -1 << -5 << 2 << QList<int> { 0, 1 };
+    QTest::newRow("last past the end") << 3 << -1 << 1 << 100 << QList<int> { 1, 2 };
+    QTest::newRow("first past last") << 3 << -1 << 2 << 1 << QList<int>();
+    QTest::newRow("any negative last means all") << 3 << 1 << -1 << -7 << QList<int> { 0, 2 };
+}
+
+void tst_ExportDialog::rows()
+{
+    QFETCH(int, samples);
+    QFETCH(int, skipped);
+    QFETCH(int, first);
+    QFETCH(int, last);
+    QFETCH(QList<int>, shown);
+
+    Samples points;
+    for (int i = 0; i < samples; ++i)
+        points << QPointF(T + 1000.0 * i, i == skipped ? -1000.0 : double(i));
+    Columns columns(SeriesList { points });
+    QList<QString> headers { QStringLiteral("Value") };
+    Probe dialog(&columns.list, &headers);
+
+    QString expected = QStringLiteral("Value\n");
+    for (int i : shown)
+        expected += qtTime(T + 1000.0 * i) + QLatin1Char(',') + QString::number(i) + QLatin1Char('\n');
+    if (first == -2)
+        QCOMPARE(child<QTextEdit>(&dialog, "TB_OutputPreview")->toPlainText(), expected);
+    else
+        QCOMPARE(QString::fromLatin1(dialog.oExportData(first, last)), expected);
+}
+
+void tst_ExportDialog::withoutDataAcceptsAtOnce()
+{
+    ExportDialog dialog(nullptr, nullptr);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    // Shown by a host all the same, it ends by itself.
+    QTimer::singleShot(5000, &dialog, &QDialog::reject);
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+}
+
+void tst_ExportDialog::saveThroughDialog()
+{
+    const QString python = QStandardPaths::findExecutable(QStringLiteral("python3"));
+    if (python.isEmpty())
+        QSKIP("python3 is not installed; tools/install-deps.sh installs it");
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString path = dir.filePath(QStringLiteral("values.csv"));
+    {
+        QFile old(path); // replaced after the overwrite question
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        old.write("old content that is longer than nothing\n");
+    }
+
+    Columns columns(
+        SeriesList { { { T, 1.25 }, { T + 500, 0.125 }, { T + 1000, -1000 }, { T + 1500.9, -2 }, { T + 2000, kNaN } },
+            { { T, 10 }, { T + 500, 20 }, { T + 1000, 30 }, { T + 1500, 40 }, { T + 2000, 50 } },
+            { { T, -0.001 }, { T + 500, 1e6 } } });
+    QList<QString> headers { "Distance", "Signal", "Höhe" };
+    ExportDialog dialog(&columns.list, &headers);
+    dialog.setPrecision(2);
+
+    const QString proposed
+        = QStringLiteral("export-%1.csv").arg(QDate::currentDate().toString(QStringLiteral("dd-MM-yyyy")));
+    QStringList seen; // by the driver, compared once the dialog is closed
+    auto driven = TestSupport::whenModal<ExportDialog>([&](ExportDialog *shown) {
+        chooseSeparators(shown, QStringLiteral("s"), QString());
+        auto *buttons = child<QDialogButtonBox>(shown, "buttonBox");
+        seen << QString::number(buttons->isEnabled()); // not even Cancel before a file is chosen
+        answerFileDialog(path, [&](QFileDialog *files) {
+            seen << files->windowTitle() << QString::number(files->acceptMode()) << files->nameFilters()
+                 << files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text();
+        });
+        QTest::mouseClick(child<QPushButton>(shown, "PB_Select"), Qt::LeftButton);
+        seen << child<QLineEdit>(shown, "LE_Location")->text() << QString::number(buttons->isEnabled());
+        QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
+    });
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QVERIFY(*driven);
+    QCOMPARE(seen,
+        (QStringList { "0", "Save As...", QString::number(QFileDialog::AcceptSave), "*.csv", proposed, path, "1" }));
+
+    QProcess reader;
+    reader.start(python, { QStringLiteral(UTILS_READCSV_SCRIPT), path, QStringLiteral(";") });
+    QVERIFY(reader.waitForFinished(30000));
+    QCOMPARE(reader.exitCode(), 0);
+    const QJsonArray rows = QJsonDocument::fromJson(reader.readAllStandardOutput()).array();
+    const QList<QStringList> expected {
+        { "Distance", "Signal", "Höhe" },
+        { qtTime(T), "1.25", "10.00", "-0.00" },
+        { qtTime(T + 500), "0.13", "20.00", "1000000.00" },
+        { qtTime(T + 1500), "-2.00", "40.00", "" },
+        { qtTime(T + 2000), "nan", "50.00", "" },
+    };
+    QCOMPARE(rows.size(), expected.size());
+    for (int r = 0; r < expected.size(); ++r) {
+        QStringList cells;
+        for (const QJsonValue &cell : rows.at(r).toArray())
+            cells << cell.toString();
+        QCOMPARE(cells, expected.at(r));
+    }
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList { QStringLiteral("values.csv") });
+}
+
+void tst_ExportDialog::saveFailure_data()
+{
+    QTest::addColumn<QString>("name"); // relative to a fresh folder; empty: no file chosen
+    QTest::addColumn<bool>("limitFileSize");
+
+    QTest::newRow("no file chosen") << QString() << false;
+    QTest::newRow("folder missing") << QStringLiteral("missing/values.csv") << false;
+    QTest::newRow("write fails part-way") << QStringLiteral("values.csv") << true;
+}
+
+void tst_ExportDialog::saveFailure()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, limitFileSize);
+
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QByteArray old = "kept\n";
+    QFile kept(dir.filePath(QStringLiteral("values.csv")));
+    QVERIFY(kept.open(QIODevice::WriteOnly) && kept.write(old) == old.size());
+    kept.close();
+    Samples samples;
+    for (int i = 0; i < 5000; ++i)
+        samples << QPointF(T + i, i);
+    Columns columns(SeriesList { samples });
+    QList<QString> headers { QStringLiteral("Value") };
+    Probe dialog(&columns.list, &headers);
+    if (!name.isEmpty()) {
+        auto answered = answerFileDialog(dir.filePath(name));
+        dialog.vSelectFileDialog();
+        QVERIFY(*answered);
+        QCOMPARE(dialog.fileName(), dir.filePath(name));
+    }
+
+    bool saved = true;
+    if (limitFileSize) {
+#ifdef Q_OS_UNIX
+        // A full disk, even for root: writes past 4 KiB fail.
+        rlimit previous {};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &previous), 0);
+        rlimit small = previous;
+        small.rlim_cur = 4096;
+        const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        saved = dialog.bSaveToFile(dialog.oExportData(0, -1));
+        setrlimit(RLIMIT_FSIZE, &previous);
+        std::signal(SIGXFSZ, oldHandler);
+#else
+        QSKIP("file size limits are a POSIX feature");
+#endif
+    } else {
+        saved = dialog.bSaveToFile(dialog.oExportData(0, -1));
+    }
+    QVERIFY(!saved);
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), old);
+    QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+        QStringList { QStringLiteral("values.csv") });
+}
+
+QTEST_MAIN(tst_ExportDialog)
+
+#include "tst_exportdialog.moc"
