@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef UTILS_PLOTEXPORT_P_H
+#define UTILS_PLOTEXPORT_P_H
+
+// Internal to the library: export and printing of a plot, shared by the chart
+// plotter and the plot document. Not installed.
+
+#include <QString>
+
+class QwtPlot;
+class QWidget;
+
+namespace Utils {
+namespace PlotExport {
+
+//! "PDF Documents (*.pdf);;SVG Documents (*.svg);;Postscript Documents (*.ps)" and the image formats.
+QString fileFilters();
+
+/*!
+    Asks for a file (caption "Export File Name", proposed "chart.pdf") and
+    renders \a plot into it, 300 x 200 mm at 85 dpi with its background; the
+    format follows the extension. Returns the file written, or an empty string
+    when the user cancelled or the plot is gone.
+*/
+QString exportPlot(QwtPlot *plot, QWidget *parent);
+
+/*!
+    Prints \a plot after a print dialog: high resolution, landscape, the
+    document named after the plot title (line breaks as " -- "), \a creator as
+    the creator. On a grey-scale printer the canvas background is left out and
+    the plot is framed with its scales. Returns true when printed.
+*/
+bool printPlot(QwtPlot *plot, const QString &creator, QWidget *parent);
+
+} // namespace PlotExport
+} // namespace Utils
+
+#endif // UTILS_PLOTEXPORT_P_H
