@@ -2,16 +2,20 @@
 // The time axis consults plot/xPlotAxisType of the settings file for every label.
 // These benchmarks show what that costs against a plain Qwt label, and what a
 // full replot with a moving time axis costs on Utils::Plot against a bare QwtPlot.
+#include <plot/customcurve.h>
 #include <plot/plot.h>
 #include <plot/plotmarker.h>
 #include <plot/timescaledraw.h>
 
 #include <qwt_plot_curve.h>
 #include <qwt_scale_draw.h>
+#include <qwt_scale_map.h>
 
 #include <QApplication>
 #include <QCoreApplication>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
 #include <QSettings>
 #include <QVector>
 
@@ -19,6 +23,7 @@
 
 #include <cmath>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -85,6 +90,8 @@ void replotMovingAxis(benchmark::State &state, bool withMarkers)
     for (auto _ : state) {
         plot.QwtPlot::setAxisScale(QwtPlot::xBottom, t, t + 50000.0);
         plot.replot();
+        // replot() only schedules the canvas and axes; paint them now, as a frame would.
+        plot.repaint();
         t += 100.0;
     }
     markers.clear();
@@ -101,6 +108,93 @@ void BM_ReplotBareQwtPlot(benchmark::State &state)
     replotMovingAxis<QwtPlot>(state, false);
 }
 BENCHMARK(BM_ReplotBareQwtPlot)->Unit(benchmark::kMicrosecond);
+
+/*
+    A live chart's curve: 900,000 samples at 1 ms spacing, 10 s of them in view
+    on an 800 x 300 Utils::Plot. range(0): 0 = CustomCurve over all samples,
+    1 = CustomCurve given only the visible 10,000, 2 = plain QwtPlotCurve over
+    all, 3 = plain QwtPlotCurve given only the visible 10,000.
+*/
+void BM_CurveReplot(benchmark::State &state)
+{
+    const int kind = int(state.range(0));
+    const int total = 900000;
+    const int visible = 10000;
+    std::vector<double> x(total), y(total);
+    for (int i = 0; i < total; ++i) {
+        x[i] = kStart + i;
+        y[i] = 150.0 + 80.0 * std::sin(i / 700.0) + double((i * 7919LL) % 13) - 6.0;
+    }
+    const bool onlyVisible = kind == 1 || kind == 3;
+    const int offset = onlyVisible ? total - visible : 0;
+    const int count = onlyVisible ? visible : total;
+    Utils::Plot plot;
+    plot.resize(800, 300);
+    plot.setAxisScale(QwtPlot::yLeft, 0.0, 300.0);
+    plot.setAxisScale(QwtPlot::xBottom, x[total - visible], x[total - 1]);
+    QwtPlotCurve *curve = nullptr;
+    if (kind <= 1) {
+        auto *custom = new Utils::CustomCurve;
+        custom->vUpdateData(x.data() + offset, y.data() + offset, count);
+        curve = custom;
+    } else {
+        curve = new QwtPlotCurve;
+        curve->setRawSamples(x.data() + offset, y.data() + offset, count);
+    }
+    curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+    curve->attach(&plot);
+    plot.show();
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        plot.replot();
+        plot.repaint();
+    }
+    state.SetLabel(kind == 0   ? "CustomCurve, 900k samples"
+                   : kind == 1 ? "CustomCurve, visible 10k only"
+                   : kind == 2 ? "QwtPlotCurve, 900k samples"
+                               : "QwtPlotCurve, visible 10k only");
+}
+BENCHMARK(BM_CurveReplot)->DenseRange(0, 3)->Unit(benchmark::kMicrosecond);
+
+/*
+    The time line's overview: all 900,000 samples in 800 pixel columns, drawn
+    into an image (no widget), so that only the curve is timed.
+    range(0): 0 = CustomCurve, 1 = plain QwtPlotCurve.
+*/
+void BM_OverviewDraw(benchmark::State &state)
+{
+    const int total = 900000;
+    std::vector<double> x(total), y(total);
+    for (int i = 0; i < total; ++i) {
+        x[i] = kStart + i;
+        y[i] = 150.0 + 80.0 * std::sin(i / 700.0) + double((i * 7919LL) % 13) - 6.0;
+    }
+    QwtPlotCurve *curve = nullptr;
+    if (state.range(0) == 0) {
+        auto *custom = new Utils::CustomCurve;
+        custom->vUpdateData(x.data(), y.data(), total);
+        curve = custom;
+    } else {
+        curve = new QwtPlotCurve;
+        curve->setRawSamples(x.data(), y.data(), total);
+    }
+    curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+    QImage image(800, 60, QImage::Format_ARGB32_Premultiplied);
+    QwtScaleMap xMap, yMap;
+    xMap.setPaintInterval(0, 800);
+    xMap.setScaleInterval(x.front(), x.back());
+    yMap.setPaintInterval(60, 0);
+    yMap.setScaleInterval(0.0, 300.0);
+    for (auto _ : state) {
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        curve->draw(&painter, xMap, yMap, QRectF(0, 0, 800, 60));
+    }
+    delete curve;
+    state.SetLabel(state.range(0) == 0 ? "CustomCurve" : "QwtPlotCurve");
+}
+BENCHMARK(BM_OverviewDraw)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

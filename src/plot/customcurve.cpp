@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace Utils {
 
@@ -221,12 +222,18 @@ void CustomCurve::drawSeries(QPainter *painter, const QwtScaleMap &xMap, const Q
         if (lastIndex != firstIndex)
             point(lastIndex);
     };
+    // x is sorted, so a column ends where x reaches the value of the next
+    // pixel: one comparison per sample instead of a transform and a rounding.
+    const bool rising = xMap.p2() >= xMap.p1() ? xMap.s2() >= xMap.s1() : xMap.s2() < xMap.s1();
+    double boundary = -std::numeric_limits<double>::infinity();
     for (int i = first; i <= last; ++i) {
-        const int c = PlotCommon::toPixel(std::floor(xMap.transform(x[i])));
-        if (inColumn == 0 || c != column) {
+        if (inColumn == 0 || !(x[i] < boundary)) {
             if (inColumn > 0)
                 flush();
-            column = c;
+            column = PlotCommon::toPixel(std::floor(xMap.transform(x[i])));
+            boundary = xMap.invTransform(rising ? column + 1.0 : double(column));
+            if (!(boundary > x[i])) // rounding at the edge: step at least one sample
+                boundary = std::nextafter(x[i], std::numeric_limits<double>::infinity());
             inColumn = 0;
             firstIndex = minIndex = maxIndex = i;
         }
@@ -235,7 +242,7 @@ void CustomCurve::drawSeries(QPainter *painter, const QwtScaleMap &xMap, const Q
         ++inColumn;
         if (y[i] < y[minIndex])
             minIndex = i;
-        if (y[i] > y[maxIndex])
+        else if (y[i] > y[maxIndex])
             maxIndex = i;
         lastIndex = i;
     }
