@@ -93,4 +93,35 @@
         <translation>Datum + Zeit</translation>
     </message>
 </context>
+<context>
+    <name>Utils::ValueMarker</name>
+    <message>
+        <source>Signal %1</source>
+        <translation>Signal %1</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>numbered signal entry of the list label: S1, S2, ...</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <comment>red channel</comment>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <comment>green channel</comment>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <comment>blue channel</comment>
+        <translation>B</translation>
+    </message>
+</context>
 </TS>
