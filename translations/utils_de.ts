@@ -13,6 +13,37 @@
     </message>
 </context>
 <context>
+    <name>Utils::ChartTimeLine</name>
+    <message>
+        <source>Go to the first samples</source>
+        <translation>Zu den ersten Werten</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Go to the newest samples</source>
+        <translation>Zu den neuesten Werten</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Reset Zoom</source>
+        <translation>Zoom zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+</context>
+<context>
     <name>Utils::DataFrameSenderUi</name>
     <message>
         <source>Sending...</source>
