@@ -1,0 +1,729 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "charts/chartengine_p.h"
+
+#include "charts/abstractchart.h"
+#include "charts/charttimeline.h"
+#include "charts/rangeselector.h"
+#include "charts/valueovertime.h"
+#include "plot/curvefactory.h"
+#include "plot/customcurve.h"
+#include "plot/plot.h"
+#include "plot/plotcommon_p.h"
+#include "thresholds/valuemarker.h"
+#include "thresholds/valuemarkercolor.h"
+#include "thresholds/valuemarkermultilist.h"
+
+#include <qwt_legend.h>
+#include <qwt_plot_canvas.h>
+#include <qwt_plot_directpainter.h>
+#include <qwt_plot_marker.h>
+#include <qwt_plot_zoneitem.h>
+#include <qwt_scale_div.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_map.h>
+#include <qwt_scale_widget.h>
+
+#include <QComboBox>
+#include <QDockWidget>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace Utils {
+namespace Charts {
+
+namespace {
+
+// Wall-clock time in ms since the epoch with a fraction: samples of a fast
+// sensor within one millisecond keep their order and stay apart.
+double wallClockMs()
+{
+    using namespace std::chrono;
+    return double(duration_cast<microseconds>(system_clock::now().time_since_epoch()).count()) / 1000.0;
+}
+
+ValueMarker *makeMarker(MarkerKind kind, QwtPlot *plot)
+{
+    switch (kind) {
+    case MarkerKind::Color:
+        return new ValueMarkerColor(plot);
+    case MarkerKind::MultiList:
+        return new ValueMarkerMultiList(plot);
+    case MarkerKind::Plain:
+        break;
+    }
+    return new ValueMarker(plot);
+}
+
+const char *const kComboStyle = "QComboBox{ \n     border: 1px solid gray;\n     border-radius: 3px;\n     padding: 0px 0px "
+                                "0px 0px;\n     min-width: 0px;\n }\n";
+const char *const kComboStyleBorderless = "QComboBox{ \n     border: 0px;\n     border-radius: 0px;\n     padding: 0px "
+                                          "0px 0px 0px;\n     min-width: 0px;\n }\n";
+const char *const kRoundButtonStyle
+    = "QPushButton {margin: 0px; padding:0px; border: 1px solid #8f8f91; border-radius: 6px; background-color: "
+      "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #f6f7fa, stop: 1 #dadbde);}\n"
+      "QPushButton:pressed {background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #dadbde, stop: 1 "
+      "#f6f7fa);}\n"
+      "QPushButton:hover {border-color: navy;}";
+
+} // namespace
+
+ChartEngine::ChartEngine(AbstractChart *owner, const ChartConfig &cfg)
+    : q(owner)
+    , config(cfg)
+    , mainWindow(cfg.timed ? cfg.mainWindow : nullptr)
+{
+    config.plots = std::max(config.plots, 0);
+    config.curvesPerPlot = std::max(config.curvesPerPlot, 1);
+    clock.start();
+}
+
+ChartEngine::~ChartEngine()
+{
+    delete painter;
+    // The time line has no parent when the chart was never laid out with it.
+    if (timeLine && !timeLine->parent())
+        delete timeLine.data();
+}
+
+void ChartEngine::createPlots()
+{
+    if (mainWindow)
+        mainWindow->setDockNestingEnabled(false);
+    timeLine = new ChartTimeLine(nullptr);
+    painter = new QwtPlotDirectPainter;
+    plots.resize(size_t(config.plots));
+    for (int i = 0; i < config.plots; ++i) {
+        ChartPlot &p = plots[size_t(i)];
+        p.plot = new Plot(q);
+        p.plot->setObjectName(QStringLiteral("ChartPlot%1").arg(i));
+        p.plot->setStyleSheet(QStringLiteral("QwtPlotCanvas {background-color: white;} "));
+        p.factory = std::make_unique<CurveFactory>(p.plot);
+        for (int c = 0; c < config.curvesPerPlot; ++c) {
+            ChartCurve curve;
+            curve.series = std::make_unique<ValueOverTime>();
+            p.curves.push_back(std::move(curve));
+        }
+        if (config.secondMarker)
+            p.secondMarker = makeMarker(config.marker, p.plot);
+        p.marker = makeMarker(config.marker, p.plot);
+        if (mainWindow) {
+            p.plot->setMinimumHeight(170);
+            p.plot->setMinimumWidth(100);
+        } else {
+            p.plot->setMinimumHeight(100);
+            p.plot->setMinimumWidth(460);
+        }
+        p.plot->axisWidget(QwtPlot::yLeft)->setMargin(0);
+        p.plot->axisScaleDraw(QwtPlot::yLeft)->setSpacing(0);
+        // Deliberately overrides the width just set: docks and rows stay narrowable.
+        p.plot->setMinimumWidth(200);
+        // The time wheel may zoom out to a year; the zoom reset returns to the time line's window.
+        p.plot->vSetXAxis(0.0, 3.1536e10);
+        if (config.legend) {
+            p.legend = new QwtLegend;
+            p.legend->setDefaultItemMode(QwtLegendData::Checkable);
+            p.plot->insertLegend(p.legend, QwtPlot::TopLegend);
+        }
+
+        // The plot's row: a header (title, custom label, combo box, zoom bar) above the plot.
+        p.row = new QWidget(q);
+        p.row->setObjectName(QStringLiteral("ChartRow%1").arg(i));
+        auto *rowLayout = new QVBoxLayout(p.row);
+        rowLayout->setContentsMargins(0, 0, 0, 0);
+        rowLayout->setSpacing(0);
+        p.header = new QWidget(p.row);
+        auto *headerLayout = new QHBoxLayout(p.header);
+        headerLayout->setContentsMargins(4, 0, 4, 0);
+        headerLayout->setSpacing(4);
+        p.titleLabel = new QLabel(p.header);
+        p.customLabel = new QLabel(p.header);
+        p.customLabel->hide();
+        headerLayout->addWidget(p.titleLabel);
+        headerLayout->addWidget(p.customLabel);
+        headerLayout->addStretch(1);
+        p.header->hide();
+        rowLayout->addWidget(p.header);
+        rowLayout->addWidget(p.plot, 1);
+    }
+    if (mainWindow) {
+        timeLine->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        mainWindow->setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
+        mainWindow->setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+        mainWindow->setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
+        mainWindow->setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    }
+}
+
+void ChartEngine::initMembers()
+{
+    clear();
+    curvePen = QPen(filling ? QColor(188, 0, 0) : QColor(Qt::black), 1);
+    curvePen.setCosmetic(true);
+    curvePen.setJoinStyle(Qt::RoundJoin);
+    curveBrush = QBrush(QColor(188, 0, 0, 20), Qt::SolidPattern);
+    for (ChartPlot &p : plots) {
+        p.plot->setAutoReplot(false);
+        for (ChartCurve &c : p.curves) {
+            c.curve = p.factory->poAttachData(c.series.get());
+            c.overview = timeLine->poCurveFactory()->poAttachData(c.series.get());
+            applyCurvePen(c, curvePen, filling ? curveBrush : QBrush());
+        }
+    }
+    // The custom curves: three extra series drawn on plot 0.
+    if (!plots.empty()) {
+        for (int i = 0; i < 3; ++i) {
+            ChartCurve c;
+            c.series = std::make_unique<ValueOverTime>();
+            c.curve = plots.front().factory->poAttachData(c.series.get());
+            c.curve->setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
+            c.curve->setBaseline(Rules::kBaseline);
+            c.curve->setItemAttribute(QwtPlotItem::Legend, false);
+            extra.push_back(std::move(c));
+        }
+    }
+    timeLine->poPlot()->setAutoReplot(false);
+    trailing = new QTimer(q);
+    trailing->setSingleShot(true);
+    trailing->setInterval(int(Rules::kRedrawIntervalMs));
+    QObject::connect(trailing, &QTimer::timeout, q, [this]() {
+        lastRedrawMs = -1e300;
+        dataUpdated();
+    });
+}
+
+void ChartEngine::applyCurvePen(ChartCurve &c, const QPen &pen, const QBrush &brush)
+{
+    for (CustomCurve *curve : {c.curve, c.overview}) {
+        if (!curve)
+            continue;
+        curve->setPen(pen);
+        curve->setBrush(brush);
+        curve->setBaseline(curve == c.overview ? Rules::kTimeLineBaseline : Rules::kBaseline);
+    }
+}
+
+ChartCurve *ChartEngine::curve(int plot, int index, bool create)
+{
+    if (!valid(plot) || index < 0 || index > 255)
+        return nullptr;
+    ChartPlot &p = plots[size_t(plot)];
+    if (index >= int(p.curves.size())) {
+        if (!create)
+            return nullptr;
+        while (int(p.curves.size()) <= index) {
+            ChartCurve c;
+            c.series = std::make_unique<ValueOverTime>();
+            c.curve = p.factory->poAttachData(c.series.get());
+            c.overview = timeLine->poCurveFactory()->poAttachData(c.series.get());
+            applyCurvePen(c, curvePen, filling ? curveBrush : QBrush());
+            p.curves.push_back(std::move(c));
+        }
+    }
+    return &p.curves[size_t(index)];
+}
+
+void ChartEngine::append(int plot, double data, bool update, double data1, double dataExtra, double timeValue)
+{
+    if (!valid(plot))
+        return;
+    if (!q->isEnabled())
+        q->setEnabled(true);
+    ChartPlot &p = plots[size_t(plot)];
+    ValueOverTime &series = *p.curves.front().series;
+    const int size = series.size();
+    const double last = size > 0 ? series.pxData()[size - 1] : 0.0;
+    const double time = Rules::stampTime(timeValue, wallClockMs());
+    const Rules::SampleRules &rules = config.rules;
+    const bool withExtra = dataExtra > Rules::kNoExtraValue && !extra.empty();
+    // The marker's values first: the append below may redraw, which shows them.
+    p.markerValue = data;
+    p.markerSecond = data1 == Rules::kNoSecondValue ? 0.0 : data1;
+    p.markerPending = true;
+    p.listForm = ChartPlot::ListForm::None;
+    if (Rules::needsBreak(rules, last, time)) {
+        series.vAppend(rules.breakValue, last + 1.0);
+        series.vAppend(rules.breakValue, time - 1.0);
+        if (withExtra) {
+            extra.front().series->vAppend(rules.breakValue, last + 1.0);
+            extra.front().series->vAppend(rules.breakValue, time - 1.0);
+        }
+    }
+    series.vAppend(update ? data : rules.noValue, time);
+    if (withExtra)
+        extra.front().series->vAppend(update ? dataExtra : rules.noValue, time);
+
+    for (int jumps = Rules::jumpsAfter(rules, last, time); jumps > 0; --jumps)
+        q->jumpToPlottingArea();
+}
+
+void ChartEngine::appendNoTime(int plot, double value, double position)
+{
+    if (!valid(plot))
+        return;
+    ChartPlot &p = plots[size_t(plot)];
+    p.markerValue = value;
+    p.markerSecond = 0.0;
+    p.markerPending = true;
+    p.listForm = ChartPlot::ListForm::None;
+    p.curves.front().series->vAppend(value, position);
+}
+
+void ChartEngine::appendCurves(int plot, const QList<double> &values, const QList<int> &curves,
+                               const QList<QColor> &colors, bool update, double timeValue, bool breaks, bool toMarker)
+{
+    if (!valid(plot))
+        return;
+    if (!q->isEnabled())
+        q->setEnabled(true);
+    ChartPlot &p = plots[size_t(plot)];
+    const ValueOverTime &first = *p.curves.front().series;
+    const double previous = first.size() > 0 ? first.pxData()[first.size() - 1] : 0.0;
+    const double time = Rules::stampTime(timeValue, wallClockMs());
+    const Rules::SampleRules &rules = config.rules;
+    const bool pause = breaks && Rules::needsBreak(rules, previous, time);
+    if (toMarker) {
+        p.markerList = values;
+        p.markerValue = values.value(0);
+        p.markerPending = true;
+    }
+    for (int i = 0; i < values.size(); ++i) {
+        const int index = curves.isEmpty() ? i : curves.value(i, -1);
+        ChartCurve *c = curve(plot, index, true);
+        if (!c)
+            continue;
+        if (pause) {
+            c->series->vAppend(rules.breakValue, previous + 1.0);
+            c->series->vAppend(rules.breakValue, time - 1.0);
+        }
+        c->series->vAppend(update ? values.at(i) : rules.noValue, time);
+        if (i < colors.size() && colors.at(i).isValid() && c->curve && c->curve->pen().color() != colors.at(i)) {
+            QPen pen = c->curve->pen();
+            pen.setColor(colors.at(i));
+            c->curve->setPen(pen);
+            if (c->overview)
+                c->overview->setPen(pen);
+        }
+    }
+    if (breaks)
+        for (int jumps = Rules::jumpsAfter(rules, previous, time); jumps > 0; --jumps)
+            q->jumpToPlottingArea();
+}
+
+void ChartEngine::appendExtra(int index, double value, double time)
+{
+    if (index < 0 || index >= 64 || plots.empty())
+        return;
+    while (int(extra.size()) <= index) {
+        ChartCurve c;
+        c.series = std::make_unique<ValueOverTime>();
+        c.curve = plots.front().factory->poAttachData(c.series.get());
+        c.curve->setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
+        c.curve->setBaseline(Rules::kBaseline);
+        c.curve->setItemAttribute(QwtPlotItem::Legend, false);
+        extra.push_back(std::move(c));
+    }
+    extra[size_t(index)].series->vAppend(value, time);
+}
+
+void ChartEngine::clear()
+{
+    for (int i = 0; i < int(plots.size()); ++i)
+        clear(i);
+    for (ChartCurve &c : extra) {
+        c.series->vClear();
+        c.lastDrawn = -1;
+    }
+    plottingEnabled = true;
+}
+
+void ChartEngine::clear(int plot)
+{
+    if (!valid(plot))
+        return;
+    for (ChartCurve &c : plots[size_t(plot)].curves) {
+        c.series->vClear();
+        c.lastDrawn = -1;
+    }
+}
+
+Rules::Window ChartEngine::timeLineWindow() const
+{
+    const QwtScaleDiv &div = timeLine->poPlot()->axisScaleDiv(QwtPlot::xBottom);
+    return Rules::Window(div.lowerBound(), div.upperBound());
+}
+
+double ChartEngine::newestX() const
+{
+    if (plots.empty())
+        return 0.0;
+    const ValueOverTime &s = *plots.front().curves.front().series;
+    return s.size() > 0 ? s.pxData()[s.size() - 1] : 0.0;
+}
+
+double ChartEngine::firstX() const
+{
+    if (plots.empty())
+        return 0.0;
+    const ValueOverTime &s = *plots.front().curves.front().series;
+    return s.size() > 0 ? s.pxData()[0] : 0.0;
+}
+
+void ChartEngine::moveTimeLine(const Rules::Window &w)
+{
+    if (!(w.second > w.first))
+        return;
+    // The selection keeps its pixels, so it moves with the overview; the new
+    // times are passed on to the plots.
+    const RangeSelector *selector = timeLine->poRangeSelector();
+    const double leftPx = selector->geometry().left();
+    const double rightPx = selector->geometry().right() + 1;
+    timeLine->vUpdateXAxisScale(w.first, w.second);
+    const QwtScaleMap map = timeLine->poPlot()->canvasMap(QwtPlot::xBottom);
+    q->timeLineRangeUpdated(map.invTransform(leftPx), map.invTransform(rightPx));
+}
+
+void ChartEngine::passSelectorOn()
+{
+    q->timeLineRangeUpdated(timeLine->selectionLeft(), timeLine->selectionRight());
+}
+
+void ChartEngine::setVisibleWindow(double left, double right)
+{
+    window = Rules::Window(left, right);
+    for (ChartPlot &p : plots) {
+        if (p.independent)
+            continue;
+        p.plot->QwtPlot::setAxisScale(QwtPlot::xBottom, left, right);
+        // The plot's own zoom reset returns to this window.
+        p.plot->vSetXAxis(left, right);
+        p.plot->replot();
+        for (ChartCurve &c : p.curves)
+            c.lastDrawn = c.series->size() - 1;
+    }
+    for (ChartCurve &c : extra)
+        c.lastDrawn = c.series->size() - 1;
+}
+
+void ChartEngine::pushMarkers()
+{
+    lastMarkerMs = clock.nsecsElapsed() / 1e6;
+    for (ChartPlot &p : plots) {
+        if (!p.markerPending)
+            continue;
+        p.markerPending = false;
+        switch (p.listForm) {
+        case ChartPlot::ListForm::None:
+            p.marker->vSetValue(p.markerValue, p.markerSecond);
+            if (p.secondMarker)
+                p.secondMarker->vSetValue(p.markerSecond, 0.0);
+            break;
+        case ChartPlot::ListForm::Color:
+            if (auto *marker = qobject_cast<ValueMarkerColor *>(p.marker))
+                marker->vSetValueColor(p.markerList, p.markerName);
+            break;
+        case ChartPlot::ListForm::List:
+            if (auto *marker = qobject_cast<ValueMarkerColor *>(p.marker))
+                marker->vSetValueList(p.markerList, p.markerTypes);
+            break;
+        case ChartPlot::ListForm::ColorList:
+            if (auto *marker = qobject_cast<ValueMarkerMultiList *>(p.marker))
+                marker->vSetValueList(p.markerList, p.markerTypes, p.markerColors);
+            break;
+        }
+    }
+}
+
+void ChartEngine::dataUpdated()
+{
+    const double now = clock.nsecsElapsed() / 1e6;
+    if (!plottingEnabled || plots.empty()) {
+        // Frozen: the markers still show the newest values.
+        if (now - lastMarkerMs > Rules::kRedrawIntervalMs)
+            pushMarkers();
+        else if (trailing && !trailing->isActive())
+            trailing->start();
+        return;
+    }
+    ValueOverTime &first = *plots.front().curves.front().series;
+    if (first.size() < 2) {
+        for (ChartPlot &p : plots)
+            for (ChartCurve &c : p.curves)
+                c.lastDrawn = c.series->size() - 1;
+        pushMarkers();
+        return;
+    }
+
+    const double newest = first.pxData()[first.size() - 1];
+    const Rules::Window overview = timeLineWindow();
+    if (followNewest && window.second > window.first && newest > window.second) {
+        // One page on; the overview follows when the page leaves it.
+        const Rules::Window next = Rules::followPage(window, newest);
+        const double overviewWidth = std::max(overview.second - overview.first, next.second - next.first);
+        programmatic = true;
+        if (next.second > overview.second)
+            timeLine->vUpdateXAxisScale(next.second - overviewWidth, next.second);
+        timeLine->setSelectorRange(next.first, next.second, false);
+        setVisibleWindow(next.first, next.second);
+        programmatic = false;
+        lastRedrawMs = now;
+        pushMarkers();
+        return;
+    }
+    if (!followNewest && overview.second > overview.first && newest > overview.second) {
+        // Not following and past the time line: stop painting until the user navigates.
+        plottingEnabled = false;
+        return;
+    }
+    if (now - lastRedrawMs <= Rules::kRedrawIntervalMs || redrawSuppressed) {
+        if (trailing && !trailing->isActive() && !redrawSuppressed)
+            trailing->start();
+        return;
+    }
+    redrawNow();
+}
+
+void ChartEngine::redrawNow()
+{
+    lastRedrawMs = clock.nsecsElapsed() / 1e6;
+    pushMarkers();
+    bool overviewChanged = false;
+    const auto paintNew = [this](ChartCurve &c, QwtPlot *plot, CustomCurve *curve) {
+        const int size = c.series->size();
+        if (!curve || !plot || curve->isVisible() == false || size - 1 <= c.lastDrawn || !plot->isVisible())
+            return;
+        const int from = std::max(c.lastDrawn, 0);
+        const QwtScaleMap xMap = plot->canvasMap(curve->xAxis());
+        const double *x = c.series->pxData();
+        const double left = std::min(xMap.s1(), xMap.s2());
+        const double right = std::max(xMap.s1(), xMap.s2());
+        if (x[size - 1] < left || x[from] > right)
+            return; // nothing new in view
+        // Only the strip of the new samples is repainted.
+        const int a = PlotCommon::toPixel(xMap.transform(x[from]));
+        const int b = PlotCommon::toPixel(xMap.transform(x[size - 1]));
+        const QRect strip = QRect(QPoint(std::min(a, b) - 2, 0), QPoint(std::max(a, b) + 2, plot->canvas()->height()));
+        painter->setClipRegion(strip);
+        painter->drawSeries(curve, from, size - 1);
+    };
+    for (ChartPlot &p : plots) {
+        for (ChartCurve &c : p.curves) {
+            if (!c.hidden) {
+                paintNew(c, p.plot, c.curve);
+                paintNew(c, timeLine->poPlot(), c.overview);
+            }
+            const int drop = Rules::historyToDrop(c.series->size());
+            if (drop > 0) {
+                c.series->vEraseFirstValues(drop);
+                // The series does not announce the erase: hand the curves the shorter arrays.
+                for (CustomCurve *curve : {c.curve, c.overview}) {
+                    if (curve)
+                        curve->vUpdateData(c.series->pxData(), c.series->pyData(), c.series->size());
+                }
+                overviewChanged = true;
+            }
+            c.lastDrawn = c.series->size() - 1;
+        }
+        if (fullReplot)
+            p.plot->replot();
+    }
+    if (!plots.empty()) {
+        for (ChartCurve &c : extra) {
+            paintNew(c, plots.front().plot, c.curve);
+            const int drop = Rules::historyToDrop(c.series->size());
+            if (drop > 0) {
+                c.series->vEraseFirstValues(drop);
+                c.curve->vUpdateData(c.series->pxData(), c.series->pyData(), c.series->size());
+            }
+            c.lastDrawn = c.series->size() - 1;
+        }
+    }
+    if (overviewChanged)
+        timeLine->poPlot()->replot();
+}
+
+void ChartEngine::replotAll()
+{
+    for (ChartPlot &p : plots) {
+        p.plot->replot();
+        for (ChartCurve &c : p.curves)
+            c.lastDrawn = c.series->size() - 1;
+    }
+    for (ChartCurve &c : extra)
+        c.lastDrawn = c.series->size() - 1;
+    timeLine->poPlot()->replot();
+}
+
+int ChartEngine::plotIndexOf(const QObject *sender) const
+{
+    for (int i = 0; i < int(plots.size()); ++i) {
+        if (plots[size_t(i)].plot == sender)
+            return i;
+    }
+    return -1;
+}
+
+QWidget *ChartEngine::buildZoomBar(int plot)
+{
+    ChartPlot &p = plots[size_t(plot)];
+    if (p.zoomBar)
+        return p.zoomBar;
+    p.zoomBar = new QWidget(p.header);
+    p.zoomBar->setFixedSize(70, 30);
+    p.zoomBar->setStyleSheet(QStringLiteral("QWidget {border: 0px margin: 0px; padding:0px;}"));
+    auto *layout = new QHBoxLayout(p.zoomBar);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    struct Spec
+    {
+        const char *icon;
+        QSize size;
+        const char *tip;
+        const char *name;
+    };
+    const Spec specs[] = {
+        {":/newPrefix/icons/Zoom_in_new-01.svg", QSize(20, 20), QT_TRANSLATE_NOOP("Utils::Charts::AbstractChart", "Zoom In"),
+         "zoomInX"},
+        {":/newPrefix/icons/Zoom_reset_Ver.svg", QSize(10, 20),
+         QT_TRANSLATE_NOOP("Utils::Charts::AbstractChart", "Reset Zoom"), "resetZoomX"},
+        {":/newPrefix/icons/Zoom_out_new-01.svg", QSize(20, 20),
+         QT_TRANSLATE_NOOP("Utils::Charts::AbstractChart", "Zoom Out"), "zoomOutX"},
+    };
+    for (const Spec &spec : specs) {
+        auto *button = new QPushButton(p.zoomBar);
+        button->setObjectName(QLatin1String(spec.name));
+        button->setIcon(QIcon(QLatin1String(spec.icon)));
+        button->setIconSize(spec.size);
+        button->setFixedSize(spec.size);
+        button->setCursor(Qt::PointingHandCursor);
+        button->setStyleSheet(QLatin1String(kRoundButtonStyle));
+        button->setToolTip(AbstractChart::tr(spec.tip));
+        layout->addWidget(button);
+    }
+    static_cast<QHBoxLayout *>(p.header->layout())->addWidget(p.zoomBar);
+    return p.zoomBar;
+}
+
+QComboBox *ChartEngine::buildCombo(int plot, const QStringList &items, bool hidden)
+{
+    ChartPlot &p = plots[size_t(plot)];
+    if (!p.comboBox) {
+        auto *prev = new QPushButton(QStringLiteral("<"), p.header);
+        prev->setObjectName(QStringLiteral("timelinePrev"));
+        prev->setFixedSize(18, 18);
+        prev->setFlat(true);
+        p.comboBox = new QComboBox(p.header);
+        auto *next = new QPushButton(QStringLiteral(">"), p.header);
+        next->setObjectName(QStringLiteral("timelineNext"));
+        next->setFixedSize(18, 18);
+        next->setFlat(true);
+        auto *layout = static_cast<QHBoxLayout *>(p.header->layout());
+        // Placed before the stretch, after the title and the custom label.
+        layout->insertWidget(2, prev);
+        layout->insertWidget(3, p.comboBox);
+        layout->insertWidget(4, next);
+        QObject::connect(prev, &QPushButton::clicked, q, &AbstractChart::independentActionPrev);
+        QObject::connect(next, &QPushButton::clicked, q, &AbstractChart::independentActionNext);
+    }
+    // The borderless look where the combo box is meant to blend into the title row.
+    p.comboBox->setStyleSheet(QLatin1String(hidden ? kComboStyleBorderless : kComboStyle));
+    p.comboBox->clear();
+    p.comboBox->addItems(items);
+    p.header->show();
+    return p.comboBox;
+}
+
+void ChartEngine::setCentralWidget()
+{
+    if (!mainWindow)
+        return;
+    central = new QWidget;
+    central->setObjectName(QStringLiteral("ChartCentralWidget"));
+    central->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    auto *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(timeLine);
+    if (statusRow)
+        layout->addWidget(statusRow);
+    mainWindow->setCentralWidget(central);
+    for (int i = 0; i < int(plots.size()); ++i) {
+        ChartPlot &p = plots[size_t(i)];
+        p.dock = new QDockWidget(p.title, mainWindow);
+        p.dock->setObjectName(QStringLiteral("DockGraphNo%1").arg(i));
+        p.row->setFixedHeight(300);
+        p.row->setMinimumWidth(185);
+        p.dock->setWidget(p.row);
+        auto *bar = new QWidget(p.dock);
+        bar->setObjectName(QStringLiteral("DockTitleBar"));
+        auto *barLayout = new QHBoxLayout(bar);
+        barLayout->setContentsMargins(4, 2, 4, 2);
+        auto *hide = new QPushButton(QStringLiteral("\u2715"), bar);
+        hide->setObjectName(QStringLiteral("DockHideButton"));
+        hide->setFlat(true);
+        hide->setFixedSize(18, 18);
+        hide->setToolTip(AbstractChart::tr("Hide"));
+        auto *label = new QLabel(p.title, bar);
+        label->setObjectName(QStringLiteral("DockTitleLabel"));
+        label->setFont(QFont(QStringLiteral("Segoe UI")));
+        barLayout->addWidget(hide);
+        barLayout->addWidget(label, 1);
+        p.dock->setTitleBarWidget(bar);
+        QObject::connect(hide, &QPushButton::clicked, q, [this, i]() { q->setDockVisible(i, false); });
+        mainWindow->addDockWidget(i == 0 ? Qt::TopDockWidgetArea : Qt::BottomDockWidgetArea, p.dock);
+    }
+}
+
+void ChartEngine::updateLayout()
+{
+    if (!plotsWidget) {
+        scrollArea = new QScrollArea(q);
+        scrollArea->setObjectName(QStringLiteral("ChartScrollArea"));
+        scrollArea->setWidgetResizable(true);
+        scrollArea->setFrameShape(QFrame::NoFrame);
+        plotsWidget = new QWidget;
+        plotsLayout = new QVBoxLayout(plotsWidget);
+        plotsLayout->setContentsMargins(0, 0, 0, 0);
+        plotsLayout->setSpacing(0);
+        scrollArea->setWidget(plotsWidget);
+    }
+    for (ChartPlot &p : plots) {
+        plotsLayout->addWidget(p.row, 1);
+        p.row->setMinimumHeight(0);
+        p.row->setMaximumHeight(QWIDGETSIZE_MAX);
+    }
+}
+
+void ChartEngine::layOut()
+{
+    auto *layout = new QVBoxLayout(q);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    statusRow = new QWidget(q);
+    statusRow->setObjectName(QStringLiteral("ChartStatus"));
+    auto *statusLayout = new QHBoxLayout(statusRow);
+    statusLayout->setContentsMargins(4, 2, 4, 2);
+    statusIcon = new QLabel(statusRow);
+    statusText = new QLabel(statusRow);
+    statusLayout->addWidget(statusIcon);
+    statusLayout->addWidget(statusText, 1);
+    statusRow->hide();
+    if (mainWindow) {
+        setCentralWidget();
+        return;
+    }
+    updateLayout();
+    layout->addWidget(scrollArea, 1);
+    layout->addWidget(timeLine);
+    layout->addWidget(statusRow);
+}
+
+} // namespace Charts
+} // namespace Utils

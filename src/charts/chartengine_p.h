@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef UTILS_CHARTENGINE_P_H
+#define UTILS_CHARTENGINE_P_H
+
+// Internal to the library: the engine that every live chart class drives. It
+// keeps the plots, their series, curves and markers, applies the sample rules,
+// redraws incrementally and navigates over the history. Not installed.
+
+#include "charts/chartrules_p.h"
+#include "charts/charttimeline.h"
+
+#include <QColor>
+#include <QElapsedTimer>
+#include <QPen>
+#include <QPoint>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class QComboBox;
+class QDockWidget;
+class QLabel;
+class QMainWindow;
+class QPushButton;
+class QScrollArea;
+class QTimer;
+class QVBoxLayout;
+class QWidget;
+class QwtPlotDirectPainter;
+class QwtPlotMarker;
+class QwtPlotZoneItem;
+class QwtLegend;
+
+namespace Utils {
+
+class CurveFactory;
+class CustomCurve;
+class Plot;
+class ValueMarker;
+class ValueOverTime;
+
+namespace Charts {
+
+class AbstractChart;
+
+//! What kind of value marker a chart puts on its plots.
+enum class MarkerKind { Plain, Color, MultiList };
+
+//! How a chart is built; the variants differ only here and in their own operations.
+struct ChartConfig
+{
+    int plots = 1;
+    QMainWindow *mainWindow = nullptr;
+    bool secondMarker = false;
+    bool secondFlag = false;
+    Rules::SampleRules rules = Rules::kSingleCurve;
+    MarkerKind marker = MarkerKind::Plain;
+    //! Curves per plot created at construction (the colour chart's channels); more come on demand.
+    int curvesPerPlot = 1;
+    bool legend = false;
+    //! Charts without time have no docks and no time-stamped appends.
+    bool timed = true;
+};
+
+//! One curve of a plot: its series, its curve on the plot and its copy on the time line.
+struct ChartCurve
+{
+    std::unique_ptr<ValueOverTime> series;
+    CustomCurve *curve = nullptr;
+    CustomCurve *overview = nullptr;
+    int lastDrawn = -1;
+    bool hidden = false;
+};
+
+//! One graph of a chart.
+struct ChartPlot
+{
+    Plot *plot = nullptr;
+    std::unique_ptr<CurveFactory> factory;
+    std::vector<ChartCurve> curves; // curve 0 is the plot's series
+    ValueMarker *marker = nullptr;
+    ValueMarker *secondMarker = nullptr;
+    QWidget *row = nullptr;          // the plot with its header row
+    QWidget *header = nullptr;       // title, combo box, zoom bar
+    QLabel *titleLabel = nullptr;
+    QLabel *customLabel = nullptr;
+    QComboBox *comboBox = nullptr;
+    QWidget *zoomBar = nullptr;
+    QPointer<QDockWidget> dock;
+    QwtLegend *legend = nullptr;
+    std::vector<QwtPlotZoneItem *> rectangles;
+    std::vector<QwtPlotMarker *> xLines;
+    QPen xLinePen = QPen(QColor(120, 120, 120), 1, Qt::DashLine);
+    QString title;
+    bool independent = false;
+    bool dockVisible = true;
+    // The newest values for the markers, shown at the next redraw.
+    double markerValue = 0.0;
+    double markerSecond = 0.0;
+    bool markerPending = false;
+    QList<double> markerList;
+    QList<int> markerTypes;
+    QList<QColor> markerColors;
+    QString markerName;
+    enum class ListForm { None, Color, List, ColorList } listForm = ListForm::None;
+};
+
+class ChartEngine
+{
+public:
+    ChartEngine(AbstractChart *owner, const ChartConfig &config);
+    ~ChartEngine();
+
+    // Construction, in the order the chart calls it.
+    void createPlots();
+    void initMembers();
+    void layOut();
+
+    // Samples.
+    void append(int plot, double data, bool update, double data1, double dataExtra, double timeValue);
+    void appendNoTime(int plot, double value, double position);
+    //! The marker gets the values in the plot's list form, set by the caller beforehand (unless \a toMarker is false).
+    void appendCurves(int plot, const QList<double> &values, const QList<int> &curves, const QList<QColor> &colors,
+                      bool update, double timeValue, bool breaks, bool toMarker = true);
+    //! Appends \a value at \a time to extra series \a index.
+    void appendExtra(int index, double value, double time);
+    void clear();
+    void clear(int plot);
+    ChartCurve *curve(int plot, int index, bool create);
+
+    // Redraw.
+    void dataUpdated();
+    void redrawNow();
+    void replotAll();
+    void setVisibleWindow(double left, double right);
+    void pushMarkers();
+
+    // Navigation.
+    Rules::Window timeLineWindow() const;
+    void moveTimeLine(const Rules::Window &window);
+    void passSelectorOn();
+    double newestX() const;
+    double firstX() const;
+
+    // Looks and docks.
+    void applyCurvePen(ChartCurve &c, const QPen &pen, const QBrush &brush);
+    void setCentralWidget();
+    void updateLayout();
+    QWidget *buildZoomBar(int plot);
+    QComboBox *buildCombo(int plot, const QStringList &items, bool hidden);
+    int plotIndexOf(const QObject *sender) const;
+    bool valid(int plot) const { return plot >= 0 && plot < int(plots.size()); }
+
+    AbstractChart *q;
+    ChartConfig config;
+    std::vector<ChartPlot> plots;
+    QPointer<ChartTimeLine> timeLine;
+    std::vector<ChartCurve> extra; // the custom curves, on plot 0
+    QMainWindow *mainWindow = nullptr;
+    QPointer<QWidget> central;
+    QScrollArea *scrollArea = nullptr;
+    QWidget *plotsWidget = nullptr;
+    QVBoxLayout *plotsLayout = nullptr;
+    QWidget *statusRow = nullptr;
+    QLabel *statusIcon = nullptr;
+    QLabel *statusText = nullptr;
+    QwtPlotDirectPainter *painter = nullptr;
+    QTimer *trailing = nullptr;
+
+    bool plottingEnabled = true;
+    bool followNewest = false;
+    Rules::Window window{0.0, 0.0};
+    bool filling = true;
+    QPen curvePen;
+    QBrush curveBrush;
+    bool fullReplot = false;
+    bool dockFixedSize = false;
+    int zoomBarPlot = 1;
+    bool refreshThresholds = false;
+    bool redrawSuppressed = false;
+    bool chartUpdate = true;
+    double lastRedrawMs = -1e300;
+    double lastMarkerMs = -1e300;
+    QElapsedTimer clock;
+    QPoint lastMouse;
+    int lastHighlight = -1;
+    // Room around the newest sample when the view jumps to it (ms).
+    double marginLeft = 0.0;
+    double marginRight = 0.0;
+    // Set while the chart itself moves the time line, so that it does not take
+    // the move for the user's choice to follow or not.
+    bool programmatic = false;
+    double xMax = 3.1536e10;
+};
+
+} // namespace Charts
+} // namespace Utils
+
+#endif // UTILS_CHARTENGINE_P_H
