@@ -73,11 +73,6 @@ AbstractChart::AbstractChart(const ChartConfig &config, QWidget *parent)
     ok &= bool(connect(timeLine, &ChartTimeLine::vActionFirst, this, &AbstractChart::actionFirst));
     ok &= bool(connect(timeLine, &ChartTimeLine::vActionLast, this, &AbstractChart::actionLast));
     ok &= bool(connect(timeLine, &ChartTimeLine::jumpToPlottingArea, this, &AbstractChart::jumpToPlottingArea));
-    if (!d->plots.empty()) {
-        // Only plot 0's series drives the redraw; the other plots are painted with it.
-        ok &= bool(connect(d->plots.front().curves.front().series.get(), &ValueOverTime::vDataUpdated, this,
-                           &AbstractChart::dataUpdated));
-    }
     Q_ASSERT(ok);
     d->layOut();
     axisChanged();
@@ -871,13 +866,14 @@ bool AbstractChart::getChartUpdate() const
 
 void AbstractChart::dataUpdated()
 {
+    // The appends call the engine directly; a host may call this after filling a series itself.
+    d->syncAll();
     d->dataUpdated();
 }
 
 void AbstractChart::doUpdate()
 {
-    if (d->plottingEnabled)
-        d->redrawNow();
+    d->frame();
 }
 
 void AbstractChart::updateChart(bool fullReplot)
@@ -893,6 +889,7 @@ void AbstractChart::replotChart(const int &plotNr)
     if (!d->valid(plotNr))
         return;
     ChartPlot &p = d->plots[size_t(plotNr)];
+    d->syncAll();
     p.plot->replot();
     for (ChartCurve &c : p.curves)
         c.lastDrawn = c.series->size() - 1;

@@ -83,7 +83,6 @@ ChartEngine::ChartEngine(AbstractChart *owner, const ChartConfig &cfg)
 {
     config.plots = std::max(config.plots, 0);
     config.curvesPerPlot = std::max(config.curvesPerPlot, 1);
-    clock.start();
 }
 
 ChartEngine::~ChartEngine()
@@ -172,11 +171,8 @@ void ChartEngine::initMembers()
     curveBrush = QBrush(QColor(188, 0, 0, 20), Qt::SolidPattern);
     for (ChartPlot &p : plots) {
         p.plot->setAutoReplot(false);
-        for (ChartCurve &c : p.curves) {
-            c.curve = p.factory->poAttachData(c.series.get());
-            c.overview = timeLine->poCurveFactory()->poAttachData(c.series.get());
-            applyCurvePen(c, curvePen, filling ? curveBrush : QBrush());
-        }
+        for (ChartCurve &c : p.curves)
+            attachCurves(c, p);
     }
     // The custom curves: three extra series drawn on plot 0.
     if (!plots.empty()) {
@@ -184,6 +180,7 @@ void ChartEngine::initMembers()
             ChartCurve c;
             c.series = std::make_unique<ValueOverTime>();
             c.curve = plots.front().factory->poAttachData(c.series.get());
+            QObject::disconnect(c.series.get(), &ValueOverTime::vDataUpdated, c.curve, &CustomCurve::vUpdateData);
             c.curve->setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
             c.curve->setBaseline(Rules::kBaseline);
             c.curve->setItemAttribute(QwtPlotItem::Legend, false);
@@ -191,13 +188,75 @@ void ChartEngine::initMembers()
         }
     }
     timeLine->poPlot()->setAutoReplot(false);
-    trailing = new QTimer(q);
-    trailing->setSingleShot(true);
-    trailing->setInterval(int(Rules::kRedrawIntervalMs));
-    QObject::connect(trailing, &QTimer::timeout, q, [this]() {
-        lastRedrawMs = -1e300;
-        dataUpdated();
+    coolDown = new QTimer(q);
+    coolDown->setSingleShot(true);
+    coolDown->setTimerType(Qt::PreciseTimer);
+    coolDown->setInterval(int(Rules::kRedrawIntervalMs));
+    QObject::connect(coolDown, &QTimer::timeout, q, [this]() {
+        if (pending)
+            dataUpdated();
     });
+}
+
+void ChartEngine::attachCurves(ChartCurve &c, ChartPlot &p)
+{
+    c.curve = p.factory->poAttachData(c.series.get());
+    c.overview = timeLine->poCurveFactory()->poAttachData(c.series.get());
+    // The chart hands its curves the arrays itself, once per redraw, instead of
+    // a signal per sample: a fast sensor appends far more often than it is drawn.
+    for (CustomCurve *curve : {c.curve, c.overview})
+        QObject::disconnect(c.series.get(), &ValueOverTime::vDataUpdated, curve, &CustomCurve::vUpdateData);
+    c.syncedX = c.series->pxData();
+    c.syncedCount = c.series->size();
+    applyCurvePen(c, curvePen, filling ? curveBrush : QBrush());
+}
+
+void ChartEngine::sync(ChartCurve &c)
+{
+    const double *x = c.series->pxData();
+    const int count = c.series->size();
+    if (x == c.syncedX && count == c.syncedCount)
+        return;
+    for (CustomCurve *curve : {c.curve, c.overview}) {
+        if (curve)
+            curve->vUpdateData(x, c.series->pyData(), count);
+    }
+    c.syncedX = x;
+    c.syncedCount = count;
+}
+
+void ChartEngine::syncAll()
+{
+    for (ChartPlot &p : plots) {
+        for (ChartCurve &c : p.curves)
+            sync(c);
+    }
+    for (ChartCurve &c : extra)
+        sync(c);
+}
+
+bool ChartEngine::trim(ChartCurve &c)
+{
+    const int drop = Rules::historyToDrop(c.series->size());
+    if (drop <= 0)
+        return false;
+    c.series->vEraseFirstValues(drop);
+    c.lastDrawn = std::max(c.lastDrawn - drop, -1);
+    sync(c);
+    return true;
+}
+
+void ChartEngine::afterAppend(ChartCurve &c)
+{
+    // Above the cap the oldest block goes at once, so that the history stays
+    // bounded however fast samples come; new memory reaches the curves at once,
+    // so that no paint reads the old.
+    if (c.series->size() > Rules::kHistoryCap) {
+        trim(c);
+        trimmed = true;
+    } else if (c.series->pxData() != c.syncedX) {
+        sync(c);
+    }
 }
 
 void ChartEngine::applyCurvePen(ChartCurve &c, const QPen &pen, const QBrush &brush)
@@ -222,9 +281,7 @@ ChartCurve *ChartEngine::curve(int plot, int index, bool create)
         while (int(p.curves.size()) <= index) {
             ChartCurve c;
             c.series = std::make_unique<ValueOverTime>();
-            c.curve = p.factory->poAttachData(c.series.get());
-            c.overview = timeLine->poCurveFactory()->poAttachData(c.series.get());
-            applyCurvePen(c, curvePen, filling ? curveBrush : QBrush());
+            attachCurves(c, p);
             p.curves.push_back(std::move(c));
         }
     }
@@ -258,8 +315,12 @@ void ChartEngine::append(int plot, double data, bool update, double data1, doubl
         }
     }
     series.vAppend(update ? data : rules.noValue, time);
-    if (withExtra)
+    afterAppend(p.curves.front());
+    if (withExtra) {
         extra.front().series->vAppend(update ? dataExtra : rules.noValue, time);
+        afterAppend(extra.front());
+    }
+    dataUpdated();
 
     for (int jumps = Rules::jumpsAfter(rules, last, time); jumps > 0; --jumps)
         q->jumpToPlottingArea();
@@ -275,6 +336,8 @@ void ChartEngine::appendNoTime(int plot, double value, double position)
     p.markerPending = true;
     p.listForm = ChartPlot::ListForm::None;
     p.curves.front().series->vAppend(value, position);
+    afterAppend(p.curves.front());
+    dataUpdated();
 }
 
 void ChartEngine::appendCurves(int plot, const QList<double> &values, const QList<int> &curves,
@@ -305,6 +368,7 @@ void ChartEngine::appendCurves(int plot, const QList<double> &values, const QLis
             c->series->vAppend(rules.breakValue, time - 1.0);
         }
         c->series->vAppend(update ? values.at(i) : rules.noValue, time);
+        afterAppend(*c);
         if (i < colors.size() && colors.at(i).isValid() && c->curve && c->curve->pen().color() != colors.at(i)) {
             QPen pen = c->curve->pen();
             pen.setColor(colors.at(i));
@@ -313,6 +377,7 @@ void ChartEngine::appendCurves(int plot, const QList<double> &values, const QLis
                 c->overview->setPen(pen);
         }
     }
+    dataUpdated();
     if (breaks)
         for (int jumps = Rules::jumpsAfter(rules, previous, time); jumps > 0; --jumps)
             q->jumpToPlottingArea();
@@ -326,12 +391,15 @@ void ChartEngine::appendExtra(int index, double value, double time)
         ChartCurve c;
         c.series = std::make_unique<ValueOverTime>();
         c.curve = plots.front().factory->poAttachData(c.series.get());
+        QObject::disconnect(c.series.get(), &ValueOverTime::vDataUpdated, c.curve, &CustomCurve::vUpdateData);
         c.curve->setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
         c.curve->setBaseline(Rules::kBaseline);
         c.curve->setItemAttribute(QwtPlotItem::Legend, false);
         extra.push_back(std::move(c));
     }
     extra[size_t(index)].series->vAppend(value, time);
+    afterAppend(extra[size_t(index)]);
+    dataUpdated();
 }
 
 void ChartEngine::clear()
@@ -341,6 +409,7 @@ void ChartEngine::clear()
     for (ChartCurve &c : extra) {
         c.series->vClear();
         c.lastDrawn = -1;
+        sync(c);
     }
     plottingEnabled = true;
 }
@@ -352,6 +421,7 @@ void ChartEngine::clear(int plot)
     for (ChartCurve &c : plots[size_t(plot)].curves) {
         c.series->vClear();
         c.lastDrawn = -1;
+        sync(c);
     }
 }
 
@@ -398,6 +468,7 @@ void ChartEngine::passSelectorOn()
 
 void ChartEngine::setVisibleWindow(double left, double right)
 {
+    syncAll();
     window = Rules::Window(left, right);
     for (ChartPlot &p : plots) {
         if (p.independent)
@@ -415,7 +486,6 @@ void ChartEngine::setVisibleWindow(double left, double right)
 
 void ChartEngine::pushMarkers()
 {
-    lastMarkerMs = clock.nsecsElapsed() / 1e6;
     for (ChartPlot &p : plots) {
         if (!p.markerPending)
             continue;
@@ -444,17 +514,27 @@ void ChartEngine::pushMarkers()
 
 void ChartEngine::dataUpdated()
 {
-    const double now = clock.nsecsElapsed() / 1e6;
-    if (!plottingEnabled || plots.empty()) {
+    // Within 20 ms of the last redraw the samples wait for the cool-down's end;
+    // this costs one test per sample and no clock read.
+    if (coolDown->isActive()) {
+        pending = true;
+        return;
+    }
+    pending = false;
+    coolDown->start();
+    frame();
+}
+
+void ChartEngine::frame()
+{
+    if (!plottingEnabled || plots.empty() || redrawSuppressed) {
         // Frozen: the markers still show the newest values.
-        if (now - lastMarkerMs > Rules::kRedrawIntervalMs)
-            pushMarkers();
-        else if (trailing && !trailing->isActive())
-            trailing->start();
+        pushMarkers();
         return;
     }
     ValueOverTime &first = *plots.front().curves.front().series;
     if (first.size() < 2) {
+        syncAll();
         for (ChartPlot &p : plots)
             for (ChartCurve &c : p.curves)
                 c.lastDrawn = c.series->size() - 1;
@@ -474,18 +554,13 @@ void ChartEngine::dataUpdated()
         timeLine->setSelectorRange(next.first, next.second, false);
         setVisibleWindow(next.first, next.second);
         programmatic = false;
-        lastRedrawMs = now;
         pushMarkers();
         return;
     }
     if (!followNewest && overview.second > overview.first && newest > overview.second) {
         // Not following and past the time line: stop painting until the user navigates.
         plottingEnabled = false;
-        return;
-    }
-    if (now - lastRedrawMs <= Rules::kRedrawIntervalMs || redrawSuppressed) {
-        if (trailing && !trailing->isActive() && !redrawSuppressed)
-            trailing->start();
+        pushMarkers();
         return;
     }
     redrawNow();
@@ -493,9 +568,11 @@ void ChartEngine::dataUpdated()
 
 void ChartEngine::redrawNow()
 {
-    lastRedrawMs = clock.nsecsElapsed() / 1e6;
+    syncAll();
     pushMarkers();
-    bool overviewChanged = false;
+    // The overview shows the history: when its oldest part went, it is drawn anew.
+    const bool overviewChanged = trimmed;
+    trimmed = false;
     const auto paintNew = [this](ChartCurve &c, QwtPlot *plot, CustomCurve *curve) {
         const int size = c.series->size();
         if (!curve || !plot || curve->isVisible() == false || size - 1 <= c.lastDrawn || !plot->isVisible())
@@ -520,16 +597,6 @@ void ChartEngine::redrawNow()
                 paintNew(c, p.plot, c.curve);
                 paintNew(c, timeLine->poPlot(), c.overview);
             }
-            const int drop = Rules::historyToDrop(c.series->size());
-            if (drop > 0) {
-                c.series->vEraseFirstValues(drop);
-                // The series does not announce the erase: hand the curves the shorter arrays.
-                for (CustomCurve *curve : {c.curve, c.overview}) {
-                    if (curve)
-                        curve->vUpdateData(c.series->pxData(), c.series->pyData(), c.series->size());
-                }
-                overviewChanged = true;
-            }
             c.lastDrawn = c.series->size() - 1;
         }
         if (fullReplot)
@@ -538,11 +605,6 @@ void ChartEngine::redrawNow()
     if (!plots.empty()) {
         for (ChartCurve &c : extra) {
             paintNew(c, plots.front().plot, c.curve);
-            const int drop = Rules::historyToDrop(c.series->size());
-            if (drop > 0) {
-                c.series->vEraseFirstValues(drop);
-                c.curve->vUpdateData(c.series->pxData(), c.series->pyData(), c.series->size());
-            }
             c.lastDrawn = c.series->size() - 1;
         }
     }
@@ -552,6 +614,7 @@ void ChartEngine::redrawNow()
 
 void ChartEngine::replotAll()
 {
+    syncAll();
     for (ChartPlot &p : plots) {
         p.plot->replot();
         for (ChartCurve &c : p.curves)

@@ -10,7 +10,6 @@
 #include "charts/charttimeline.h"
 
 #include <QColor>
-#include <QElapsedTimer>
 #include <QPen>
 #include <QPoint>
 #include <QPointer>
@@ -73,6 +72,10 @@ struct ChartCurve
     CustomCurve *overview = nullptr;
     int lastDrawn = -1;
     bool hidden = false;
+    // What the curves were last given; they are handed the arrays again when
+    // these change (new memory at once, more samples at the next redraw).
+    const double *syncedX = nullptr;
+    int syncedCount = 0;
 };
 
 //! One graph of a chart.
@@ -131,8 +134,19 @@ public:
     void clear(int plot);
     ChartCurve *curve(int plot, int index, bool create);
 
+    //! Hands the series' arrays to its curves when they changed.
+    void sync(ChartCurve &c);
+    void syncAll();
+    //! Called after each append: keeps the history bounded and the curves' memory valid.
+    void afterAppend(ChartCurve &c);
+    //! Drops the oldest samples above the cap.
+    bool trim(ChartCurve &c);
+
     // Redraw.
+    //! After new samples: redraws now, unless the last redraw is less than 20 ms ago.
     void dataUpdated();
+    //! The frame: follows or freezes, paints the new samples.
+    void frame();
     void redrawNow();
     void replotAll();
     void setVisibleWindow(double left, double right);
@@ -146,6 +160,7 @@ public:
     double firstX() const;
 
     // Looks and docks.
+    void attachCurves(ChartCurve &c, ChartPlot &p);
     void applyCurvePen(ChartCurve &c, const QPen &pen, const QBrush &brush);
     void setCentralWidget();
     void updateLayout();
@@ -168,7 +183,10 @@ public:
     QLabel *statusIcon = nullptr;
     QLabel *statusText = nullptr;
     QwtPlotDirectPainter *painter = nullptr;
-    QTimer *trailing = nullptr;
+    // Runs for 20 ms after each redraw; samples that come meanwhile wait for its end.
+    QTimer *coolDown = nullptr;
+    bool pending = false;
+    bool trimmed = false;
 
     bool plottingEnabled = true;
     bool followNewest = false;
@@ -182,9 +200,6 @@ public:
     bool refreshThresholds = false;
     bool redrawSuppressed = false;
     bool chartUpdate = true;
-    double lastRedrawMs = -1e300;
-    double lastMarkerMs = -1e300;
-    QElapsedTimer clock;
     QPoint lastMouse;
     int lastHighlight = -1;
     // Room around the newest sample when the view jumps to it (ms).

@@ -254,10 +254,11 @@ void tst_GenericChart::stampingAndMarker()
 void tst_GenericChart::historyCapDropsOneBlock()
 {
     GenericChart chart(1);
-    for (int i = 0; i < 900001; ++i)
+    for (int i = 0; i < 900000; ++i)
         chart.vAppendDataNoTime(0, double(i % 300), kT0 + i);
-    QCOMPARE(chart.getData(0)->size(), 900001);
-    chart.doUpdate();
+    QCOMPARE(chart.getData(0)->size(), 900000);
+    // The 900,001st sample takes exactly the oldest 225,000 with it, at once.
+    chart.vAppendDataNoTime(0, 1.0, kT0 + 900000);
     QCOMPARE(chart.getData(0)->size(), 900001 - 225000);
     QCOMPARE(chart.getData(0)->oFirst().x(), kT0 + 225000);
     QCOMPARE(chart.getMaximumHistoryValues(), 900000);
