@@ -9,6 +9,7 @@
 
 #include <qwt_interval.h>
 #include <qwt_plot_canvas.h>
+#include <qwt_scale_div.h>
 #include <qwt_scale_widget.h>
 
 #include <QDateTime>
@@ -194,11 +195,13 @@ void ChartTimeLine::setSelectorRange(const double &low, const double &high, bool
 {
     if (!std::isfinite(low) || !std::isfinite(high))
         return;
-    // The rectangle's outer edges: its right edge lies after its last pixel
-    // column, so the window it was placed for counts as inside it.
-    const QRect &rect = d->selector->geometry();
-    if (low < timeAt(d->plot, rect.x()) || high > timeAt(d->plot, rect.x() + rect.width()))
-        vUpdateXAxisScale(low, high);
+    // A window beyond the overview widens it just enough to hold the window;
+    // a window inside it leaves the overview as it is.
+    const QwtScaleDiv &div = d->plot->axisScaleDiv(QwtPlot::xBottom);
+    const double lower = std::min(div.lowerBound(), div.upperBound());
+    const double upper = std::max(div.lowerBound(), div.upperBound());
+    if (low < lower || high > upper)
+        vUpdateXAxisScale(std::min(low, lower), std::max(high, upper));
     const double lowPx = d->plot->transform(QwtPlot::xBottom, low);
     const double highPx = d->plot->transform(QwtPlot::xBottom, high);
     d->selector->vSetRange(lowPx, highPx, bEmit);
