@@ -50,7 +50,7 @@ SimulatedSensor::Sample SimulatedSensor::next(double time)
     if (m_random.bounded(20000) == 0)
         distance += m_random.bounded(2) ? 60.0 : -60.0;
     const double quality = 70.0 + 25.0 * std::cos(m_phase * 3.0) + m_random.bounded(4.0);
-    const double hue = std::fmod(m_phase * 20.0, 6.0);
+    const double hue = std::fmod(m_phase * 0.8, 6.0);
     const auto channel = [hue](double offset) {
         const double h = std::fmod(hue + offset, 6.0);
         return 20.0 + 200.0 * std::max(0.0, 1.0 - std::fabs(h - 3.0) / 2.0);

@@ -176,16 +176,8 @@ void ChartEngine::initMembers()
     }
     // The custom curves: three extra series drawn on plot 0.
     if (!plots.empty()) {
-        for (int i = 0; i < 3; ++i) {
-            ChartCurve c;
-            c.series = std::make_unique<ValueOverTime>();
-            c.curve = plots.front().factory->poAttachData(c.series.get());
-            QObject::disconnect(c.series.get(), &ValueOverTime::vDataUpdated, c.curve, &CustomCurve::vUpdateData);
-            c.curve->setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
-            c.curve->setBaseline(Rules::kBaseline);
-            c.curve->setItemAttribute(QwtPlotItem::Legend, false);
-            extra.push_back(std::move(c));
-        }
+        for (int i = 0; i < 3; ++i)
+            addExtra();
     }
     timeLine->poPlot()->setAutoReplot(false);
     coolDown = new QTimer(q);
@@ -383,20 +375,28 @@ void ChartEngine::appendCurves(int plot, const QList<double> &values, const QLis
             q->jumpToPlottingArea();
 }
 
+void ChartEngine::addExtra()
+{
+    ChartCurve c;
+    c.series = std::make_unique<ValueOverTime>();
+    c.curve = plots.front().factory->poAttachData(c.series.get());
+    QObject::disconnect(c.series.get(), &ValueOverTime::vDataUpdated, c.curve, &CustomCurve::vUpdateData);
+    c.curve->setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
+    c.curve->setBaseline(Rules::kBaseline);
+    // The custom curves have no legend entry; attached again so that the legend forgets them.
+    QwtPlot *plot = c.curve->plot();
+    c.curve->detach();
+    c.curve->setItemAttribute(QwtPlotItem::Legend, false);
+    c.curve->attach(plot);
+    extra.push_back(std::move(c));
+}
+
 void ChartEngine::appendExtra(int index, double value, double time)
 {
     if (index < 0 || index >= 64 || plots.empty())
         return;
-    while (int(extra.size()) <= index) {
-        ChartCurve c;
-        c.series = std::make_unique<ValueOverTime>();
-        c.curve = plots.front().factory->poAttachData(c.series.get());
-        QObject::disconnect(c.series.get(), &ValueOverTime::vDataUpdated, c.curve, &CustomCurve::vUpdateData);
-        c.curve->setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
-        c.curve->setBaseline(Rules::kBaseline);
-        c.curve->setItemAttribute(QwtPlotItem::Legend, false);
-        extra.push_back(std::move(c));
-    }
+    while (int(extra.size()) <= index)
+        addExtra();
     extra[size_t(index)].series->vAppend(value, time);
     afterAppend(extra[size_t(index)]);
     dataUpdated();

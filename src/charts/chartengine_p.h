@@ -128,6 +128,7 @@ public:
     //! The marker gets the values in the plot's list form, set by the caller beforehand (unless \a toMarker is false).
     void appendCurves(int plot, const QList<double> &values, const QList<int> &curves, const QList<QColor> &colors,
                       bool update, double timeValue, bool breaks, bool toMarker = true);
+    void addExtra();
     //! Appends \a value at \a time to extra series \a index.
     void appendExtra(int index, double value, double time);
     void clear();
