@@ -42,6 +42,7 @@ int main(int argc, char **argv)
     QPlainTextEdit logView;
     showSensorWindow(&window, &logView);
     const bool logged = logView.toPlainText().startsWith(QStringLiteral("utils " UTILS_VERSION_STRING));
+    onSample(makeSensorChart(&window), 120.0);
 
     Utils::Plot plot;
     plot.resize(400, 300);

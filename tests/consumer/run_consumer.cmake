@@ -47,7 +47,8 @@ elseif(MODE STREQUAL "pkgconfig")
     separate_arguments(flags UNIX_COMMAND "${flags}")
     file(MAKE_DIRECTORY ${WORK_DIR}/pkgconfig)
     run(${CXX} -std=c++17 -Wall -Wextra -Werror ${CONSUMER_SOURCE_DIR}/main.cpp
-        ${CONSUMER_SOURCE_DIR}/embedding.cpp ${CONSUMER_SOURCE_DIR}/telegrams.cpp ${flags}
+        ${CONSUMER_SOURCE_DIR}/embedding.cpp ${CONSUMER_SOURCE_DIR}/telegrams.cpp
+        ${CONSUMER_SOURCE_DIR}/livechart.cpp ${flags}
         -o ${WORK_DIR}/pkgconfig/consumer)
     check_run(${WORK_DIR}/pkgconfig/consumer)
 else()

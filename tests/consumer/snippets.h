@@ -10,4 +10,13 @@ class QWidget;
 void showSensorWindow(QMainWindow *window, QPlainTextEdit *logView);
 int runExchange(QWidget *window);
 
+namespace Utils {
+namespace Charts {
+class GenericChart;
+}
+} // namespace Utils
+Utils::Charts::GenericChart *makeSensorChart(QMainWindow *window);
+void onSample(Utils::Charts::GenericChart *chart, double distance);
+void exportRecording(Utils::Charts::GenericChart *chart, QWidget *parent);
+
 #endif // UTILS_CONSUMER_SNIPPETS_H
