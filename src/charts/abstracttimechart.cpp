@@ -159,6 +159,11 @@ void AbstractTimeChart::zoomResetxButtonClicked()
     zoomBarClicked(0);
 }
 
+void AbstractTimeChart::vSetCentralWidget()
+{
+    updateLayoutUsingDockableItems();
+}
+
 void AbstractTimeChart::zoomBarClicked(int kind)
 {
     Q_UNUSED(kind)

@@ -102,6 +102,10 @@ protected:
     void zoomRectangleDone() override;
     //! Called after a zoom bar button acted: \a kind -1 zoom out, 0 reset, 1 zoom in.
     virtual void zoomBarClicked(int kind);
+
+private:
+    //! With a main window: the time line becomes its central widget, every plot a dock.
+    void vSetCentralWidget();
 };
 
 } // namespace Charts
