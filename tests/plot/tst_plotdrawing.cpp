@@ -46,6 +46,9 @@ enum class Change {
     None,
     AxisMoved, // by a fraction of a pixel
     Resized,
+    Hovered, // the marker's pen grows
+    Thicker,
+    NoBand,
     GridPens, // wide, translucent and dashed pens, minor lines on y too
 };
 
@@ -53,8 +56,8 @@ enum class Change {
 
 Q_DECLARE_METATYPE(Change)
 
-// The grid blits images of the lines it once stroked; what the screen shows
-// must be the very pixels that stroking gives.
+// The grid and the markers blit images of what they once painted; what the
+// screen shows must be the very pixels that painting gives.
 class tst_PlotDrawing : public QObject
 {
     Q_OBJECT
@@ -83,6 +86,9 @@ void tst_PlotDrawing::blittedAsPainted_data()
     QTest::newRow("axis moved by a fraction of a pixel") << 0 << 50000.0 << Change::AxisMoved;
     QTest::newRow("date and time, axis moved") << 1 << 50000.0 << Change::AxisMoved;
     QTest::newRow("resized") << 0 << 50000.0 << Change::Resized;
+    QTest::newRow("hovered marker: wider pen") << 0 << 50000.0 << Change::Hovered;
+    QTest::newRow("thicker band") << 0 << 50000.0 << Change::Thicker;
+    QTest::newRow("line only") << 0 << 50000.0 << Change::NoBand;
     QTest::newRow("other grid pens") << 1 << 1.8e6 << Change::GridPens;
 }
 
@@ -130,6 +136,18 @@ void tst_PlotDrawing::blittedAsPainted()
     case Change::Resized:
         host->resize(517, 333);
         QCoreApplication::processEvents();
+        break;
+    case Change::Hovered: {
+        QEvent enter(QEvent::Enter);
+        QApplication::sendEvent(below, &enter);
+        QCOMPARE(below->pen().width(), 3);
+        break;
+    }
+    case Change::Thicker:
+        above->setThickness(25);
+        break;
+    case Change::NoBand:
+        above->setNoiseOrientation(Utils::PlotMarker::OrientationLineOnly);
         break;
     case Change::GridPens: {
         QwtPlotGrid *grid = gridOf(plot);
