@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// The time axis consults plot/xPlotAxisType of the settings file for every label.
-// These benchmarks show what that costs against a plain Qwt label, and what a
-// full replot with a moving time axis costs on Utils::Plot against a bare QwtPlot.
+// A time label against a plain Qwt number label, and a full replot with a moving
+// time axis on Utils::Plot (grid, time labels, markers) against a bare QwtPlot.
+// On a busy machine compare medians of interleaved runs, so that load hits all
+// alike: --benchmark_repetitions=5 --benchmark_enable_random_interleaving=true
 #include <plot/customcurve.h>
 #include <plot/plot.h>
 #include <plot/plotmarker.h>

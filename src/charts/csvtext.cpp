@@ -2,14 +2,13 @@
 #include "charts/csvtext_p.h"
 
 #include "charts/valueovertime.h"
+#include "core/localtime_p.h"
 
-#include <QDateTime>
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
-#include <ctime>
 #include <limits>
 #include <vector>
 
@@ -140,11 +139,7 @@ public:
     {
         // QDateTime re-reads the time zone before each conversion; do so once
         // per export so that both agree after a change of TZ.
-#ifdef _WIN32
-        _tzset();
-#else
-        tzset();
-#endif
+        LocalTime::reloadZone();
     }
 
     //! Writes the time cell of \a ms at \a out (timeRoom bytes available) and returns the end.
@@ -154,11 +149,13 @@ public:
         if (!(ms > -9223372036854775808.0 && ms < 9223372036854775808.0))
             return out;
         const qint64 whole = qint64(ms); // truncated towards zero, as the time column is
-        if (whole < 0 || whole / 1000 > lastPlainSecond)
-            return writeByQDateTime(out, whole);
+        if (!LocalTime::isPlain(whole))
+            return LocalTime::write(out, timeRoom, whole, "dd-MM-yyyy hh:mm:ss.zzz");
         const qint64 second = whole / 1000;
-        if (second != m_second)
-            vFormatSecond(second);
+        if (second != m_second) {
+            LocalTime::writeFields(m_secondText, LocalTime::plainFields(second * 1000), "dd-MM-yyyy hh:mm:ss");
+            m_second = second;
+        }
         std::memcpy(out, m_secondText, sizeof m_secondText);
         out += sizeof m_secondText;
         const int milli = int(whole % 1000);
@@ -170,51 +167,6 @@ public:
     }
 
 private:
-    // Up to here QDateTime converts with the C library's local time as well
-    // (2037-12-31 23:59:59 UTC); before 1970 and after it, it has rules of its
-    // own, and those rare times are formatted by QDateTime itself.
-    static constexpr qint64 lastPlainSecond = 2145916799;
-
-    static char *writeByQDateTime(char *out, qint64 ms)
-    {
-        const QByteArray text
-            = QDateTime::fromMSecsSinceEpoch(ms).toString(QStringLiteral("dd-MM-yyyy hh:mm:ss.zzz")).toLatin1();
-        const int length = std::min(text.size(), timeRoom);
-        std::memcpy(out, text.constData(), size_t(length));
-        return out + length;
-    }
-
-    static void two(char *out, int value)
-    {
-        out[0] = char('0' + value / 10 % 10);
-        out[1] = char('0' + value % 10);
-    }
-
-    void vFormatSecond(qint64 second)
-    {
-        const std::time_t time = std::time_t(second);
-        std::tm local {};
-#ifdef _WIN32
-        localtime_s(&local, &time);
-#else
-        localtime_r(&time, &local);
-#endif
-        const int year = local.tm_year + 1900;
-        two(m_secondText, local.tm_mday);
-        m_secondText[2] = '-';
-        two(m_secondText + 3, local.tm_mon + 1);
-        m_secondText[5] = '-';
-        two(m_secondText + 6, year / 100);
-        two(m_secondText + 8, year);
-        m_secondText[10] = ' ';
-        two(m_secondText + 11, local.tm_hour);
-        m_secondText[13] = ':';
-        two(m_secondText + 14, local.tm_min);
-        m_secondText[16] = ':';
-        two(m_secondText + 17, local.tm_sec);
-        m_second = second;
-    }
-
     qint64 m_second = -1;
     char m_secondText[19] = {};
 };

@@ -3,6 +3,7 @@
 
 #include "plot/axisscaleengine.h"
 #include "plot/plotcommon_p.h"
+#include "plot/plotgrid_p.h"
 #include "plot/timepicker.h"
 #include "plot/timescaledraw.h"
 #include "plot/wplotmagnifier.h"
@@ -11,7 +12,6 @@
 
 #include <qwt_picker_machine.h>
 #include <qwt_plot_canvas.h>
-#include <qwt_plot_grid.h>
 #include <qwt_plot_layout.h>
 #include <qwt_plot_picker.h>
 #include <qwt_scale_widget.h>
@@ -66,7 +66,7 @@ Plot::Plot(QWidget *parent, bool bNoTools)
     canvas()->setPalette(canvasPalette);
     plotLayout()->setAlignCanvasToScales(true);
 
-    auto *grid = new QwtPlotGrid;
+    auto *grid = new PlotGrid;
     const QPen gridPen(QBrush(Qt::gray), 0, Qt::DotLine, Qt::SquareCap, Qt::BevelJoin);
     grid->setMajorPen(gridPen);
     grid->setMinorPen(gridPen);

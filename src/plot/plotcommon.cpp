@@ -2,6 +2,8 @@
 #include "plot/plotcommon_p.h"
 
 #include <QCoreApplication>
+#include <QPaintEngine>
+#include <QPainter>
 #include <QSettings>
 
 Q_LOGGING_CATEGORY(lcUtilsPlot, "utils.plot", QtWarningMsg)
@@ -91,6 +93,55 @@ void setXPlotAxisType(int type)
         qCWarning(lcUtilsPlot, "Cannot write %s: the time axis format will not be kept",
                   qUtf8Printable(settingsFileName()));
     }
+}
+
+namespace {
+bool paintCachesEnabled = true;
+} // namespace
+
+bool blitsExactly(const QPainter &painter)
+{
+    if (!paintCachesEnabled || !painter.isActive())
+        return false;
+    const QPaintEngine *engine = painter.paintEngine();
+    if (!engine || engine->type() != QPaintEngine::Raster)
+        return false;
+    if (!painter.device() || painter.device()->devicePixelRatioF() != 1.0)
+        return false;
+    if (painter.compositionMode() != QPainter::CompositionMode_SourceOver || painter.opacity() != 1.0)
+        return false;
+    const QTransform transform = painter.deviceTransform();
+    return transform.type() <= QTransform::TxTranslate && transform.dx() == std::floor(transform.dx())
+        && transform.dy() == std::floor(transform.dy());
+}
+
+void setPaintCachesEnabled(bool enabled)
+{
+    paintCachesEnabled = enabled;
+}
+
+QImage croppedToContent(const QImage &image, QPoint *offset)
+{
+    Q_ASSERT(image.format() == QImage::Format_ARGB32_Premultiplied);
+    int left = image.width();
+    int right = -1;
+    int top = image.height();
+    int bottom = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (line[x] == 0)
+                continue;
+            left = std::min(left, x);
+            right = std::max(right, x);
+            top = std::min(top, y);
+            bottom = std::max(bottom, y);
+        }
+    }
+    *offset = QPoint(std::max(left, 0), std::max(top, 0));
+    if (right < 0)
+        return QImage();
+    return image.copy(QRect(QPoint(left, top), QPoint(right, bottom)));
 }
 
 } // namespace PlotCommon

@@ -4,11 +4,17 @@
 
 // Internal to the plot tools: not installed.
 
+#include "utils_export.h"
+
+#include <QImage>
 #include <QLoggingCategory>
 #include <QString>
 
 #include <algorithm>
 #include <cmath>
+
+class QPainter;
+class QPoint;
 
 Q_DECLARE_LOGGING_CATEGORY(lcUtilsPlot)
 
@@ -60,6 +66,29 @@ int xPlotAxisType();
 //! Reads the file again at the next xPlotAxisType(), for changes made outside the axis menu.
 void reloadXPlotAxisType();
 void setXPlotAxisType(int type);
+
+/*!
+    True when an image drawn with \a painter lands pixel for pixel on the device:
+    a raster engine, no scaling or rotation (whole-pixel offsets only), plain
+    source-over at full opacity. Then a look painted once into a transparent
+    image and blitted gives the same pixels as painting it again, for every
+    blend Qt does in whole pixels. Printing, PDF, SVG and scaled views draw
+    directly.
+*/
+bool blitsExactly(const QPainter &painter);
+
+/*!
+    Switches the blitted images of the grid and the markers off (they draw
+    directly again) or back on. For tests that compare both ways.
+*/
+UTILS_EXPORT void setPaintCachesEnabled(bool enabled);
+
+/*!
+    The part of \a image that is not fully transparent, copied, and its offset
+    in \a image through \a offset; a null image when all of it is transparent.
+    Blitting less costs less on every frame.
+*/
+QImage croppedToContent(const QImage &image, QPoint *offset);
 
 } // namespace PlotCommon
 } // namespace Utils

@@ -10,6 +10,7 @@
 
 #include <QCursor>
 #include <QEvent>
+#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QResizeEvent>
@@ -23,6 +24,25 @@
 namespace Utils {
 
 using PlotCommon::toPixel;
+
+namespace {
+
+//! The marker's band and line as last painted into images, and what they were painted for.
+struct MarkerLook
+{
+    bool valid = false;
+    QSize size;
+    QPen pen;
+    int orientation = 0;
+    Qt::BrushStyle bandStyle = Qt::NoBrush;
+    int axis = 0;
+    QImage band;
+    QPoint bandOffset;
+    QImage line;
+    QPoint lineOffset;
+};
+
+} // namespace
 
 struct PlotMarker::Private
 {
@@ -60,6 +80,7 @@ struct PlotMarker::Private
     Qt::BrushStyle bandStyle = Qt::Dense5Pattern;
     bool emitWhileDragging = false;
     QString lastHint;
+    MarkerLook look;
 
     bool vertical() const { return axis == QwtPlot::xBottom; }
 };
@@ -437,16 +458,16 @@ bool PlotMarker::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void PlotMarker::paintEvent(QPaintEvent *event)
+void PlotMarker::paintLook(QPainter &painter, bool band, bool line) const
 {
-    Q_UNUSED(event)
-    QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(d->pen);
     const QRect r = rect();
     const bool lineOnly = d->orientation == OrientationLineOnly || (d->vertical() && d->orientation == OrientationLineCentered);
-    if (!lineOnly)
+    if (band && !lineOnly)
         painter.fillRect(r, QBrush(d->pen.color(), d->bandStyle));
+    if (!line)
+        return;
     if (!d->vertical()) {
         const int y = d->orientation == OrientationBandAbove ? r.bottom() : r.top();
         painter.drawLine(r.left(), y, r.right(), y);
@@ -455,6 +476,49 @@ void PlotMarker::paintEvent(QPaintEvent *event)
         const int x = std::min(r.left() + edge, r.right());
         painter.drawLine(x, r.top(), x, r.bottom());
     }
+}
+
+void PlotMarker::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    if (!PlotCommon::blitsExactly(painter)) {
+        paintLook(painter, true, true);
+        return;
+    }
+    // The canvas repaints at every replot, and the marker with it; its look
+    // only changes with its size, pen, orientation, band style and form. Band and
+    // line are kept as two images and blitted in the order they are painted:
+    // each pixel then goes through the same two blends as when painting, while
+    // one image of both would blend once and round differently.
+    MarkerLook &look = d->look;
+    if (!look.valid || look.size != size() || look.pen != d->pen || look.orientation != d->orientation
+        || look.bandStyle != d->bandStyle || look.axis != d->axis) {
+        look.valid = true;
+        look.size = size();
+        look.pen = d->pen;
+        look.orientation = d->orientation;
+        look.bandStyle = d->bandStyle;
+        look.axis = d->axis;
+        const auto layer = [this](bool band, QImage *image, QPoint *offset) {
+            *image = QImage();
+            if (size().isEmpty())
+                return;
+            QImage full(size(), QImage::Format_ARGB32_Premultiplied);
+            full.fill(Qt::transparent);
+            {
+                QPainter layerPainter(&full);
+                paintLook(layerPainter, band, !band);
+            }
+            *image = PlotCommon::croppedToContent(full, offset);
+        };
+        layer(true, &look.band, &look.bandOffset);
+        layer(false, &look.line, &look.lineOffset);
+    }
+    if (!look.band.isNull())
+        painter.drawImage(look.bandOffset, look.band);
+    if (!look.line.isNull())
+        painter.drawImage(look.lineOffset, look.line);
 }
 
 void PlotMarker::mousePressEvent(QMouseEvent *event)

@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 
+class QPainter;
 class QwtPlot;
 
 namespace Utils {
@@ -180,6 +181,7 @@ protected:
 private:
     void init(QwtPlot *plot, Mode mode, int valueAxis);
     void place(int width, int height);
+    void paintLook(QPainter &painter, bool band, bool line) const;
     void recomputePixelThickness();
     int dragHorizontal(int top);
     int dragVertical(int left);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "plot/timescaledraw.h"
 
+#include "core/localtime_p.h"
 #include "plot/plotcommon_p.h"
-
-#include <QDateTime>
 
 #include <cmath>
 
@@ -22,20 +21,20 @@ QwtText TimeScaleDraw::label(double value) const
     if (m_bDisplayValue)
         return QwtText(QString::number(value, 'g', 6));
 
-    const QString prefix = PlotCommon::xPlotAxisType() == 1 ? QStringLiteral("dd.MM.yyyy \r\n") : QString();
+    const bool withDate = PlotCommon::xPlotAxisType() == 1;
     const double span = std::fabs(scaleDiv().range());
-    QString format;
+    const char *pattern = nullptr;
     if (span < 60000.0)
-        format = prefix + QStringLiteral("hh:mm:ss");
+        pattern = withDate ? "dd.MM.yyyy \r\nhh:mm:ss" : "hh:mm:ss";
     else if (span < 8.64e7)
-        format = prefix + QStringLiteral("hh:mm");
+        pattern = withDate ? "dd.MM.yyyy \r\nhh:mm" : "hh:mm";
     else
-        format = QStringLiteral("dd.MM.yyyy");
+        pattern = "dd.MM.yyyy";
     // Truncation to whole milliseconds; NaN and out-of-range values give 0.
     qint64 ms = 0;
     if (std::isfinite(value) && std::fabs(value) < 9.0e18)
         ms = qint64(value);
-    return QwtText(QDateTime::fromMSecsSinceEpoch(ms).toString(format));
+    return QwtText(LocalTime::text(ms, pattern));
 }
 
 void TimeScaleDraw::setDisplayValue(bool displayValue)
@@ -58,6 +57,7 @@ void TimeScaleDraw::vReloadSettings()
 
 void TimeScaleDraw::vRefresh()
 {
+    LocalTime::reloadZone();
     invalidateCache();
 }
 

@@ -27,7 +27,11 @@ public:
     void setDisplayValue(bool displayValue);
     bool displayValue() const;
 
-    //! Drops the cached labels, e.g. after the axis type changed.
+    /*!
+        Drops the cached labels, e.g. after the axis type changed, and has the
+        time zone read again. Labels are drawn in the zone the C library holds;
+        it is not re-read per label, which would cost a file system look-up each.
+    */
     void vRefresh();
 
     /*!
