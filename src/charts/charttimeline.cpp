@@ -4,6 +4,7 @@
 #include "charts/rangeselector.h"
 #include "plot/curvefactory.h"
 #include "plot/plot.h"
+#include "plot/timescaledraw.h"
 #include "plot/plotcommon_p.h"
 #include "plot/plotmagnifier.h"
 
@@ -100,6 +101,8 @@ ChartTimeLine::ChartTimeLine(QWidget *parent)
     d->plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0);
     d->canvas = d->plot->canvas();
     d->plot->setAxisLabelAlignment(QwtPlot::xBottom, Qt::AlignHCenter | Qt::AlignBottom);
+    // The overview usually shows a minute or a few, with a tick every few seconds.
+    d->plot->poTimeScaleDraw()->setSecondsBelowSpan(10 * 60000.0);
     vFixAxisLayout();
 
     d->curveFactory = new CurveFactory(d->plot);

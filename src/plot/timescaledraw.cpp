@@ -24,7 +24,7 @@ QwtText TimeScaleDraw::label(double value) const
     const bool withDate = PlotCommon::xPlotAxisType() == 1;
     const double span = std::fabs(scaleDiv().range());
     const char *pattern = nullptr;
-    if (span < 60000.0)
+    if (span < m_dSecondsBelowSpan)
         pattern = withDate ? "dd.MM.yyyy \r\nhh:mm:ss" : "hh:mm:ss";
     else if (span < 8.64e7)
         pattern = withDate ? "dd.MM.yyyy \r\nhh:mm" : "hh:mm";
@@ -48,6 +48,19 @@ void TimeScaleDraw::setDisplayValue(bool displayValue)
 bool TimeScaleDraw::displayValue() const
 {
     return m_bDisplayValue;
+}
+
+void TimeScaleDraw::setSecondsBelowSpan(double spanMs)
+{
+    if (!(spanMs >= 0.0) || spanMs == m_dSecondsBelowSpan)
+        return;
+    m_dSecondsBelowSpan = spanMs;
+    invalidateCache();
+}
+
+double TimeScaleDraw::secondsBelowSpan() const
+{
+    return m_dSecondsBelowSpan;
 }
 
 void TimeScaleDraw::vReloadSettings()

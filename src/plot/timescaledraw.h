@@ -28,6 +28,14 @@ public:
     bool displayValue() const;
 
     /*!
+        Spans (ms) below which the labels show seconds; 60000 by default, so a
+        plot of one minute or more shows "hh:mm". An overview strip that shows a
+        minute with ticks every few seconds raises it.
+    */
+    void setSecondsBelowSpan(double spanMs);
+    double secondsBelowSpan() const;
+
+    /*!
         Drops the cached labels, e.g. after the axis type changed, and has the
         time zone read again. Labels are drawn in the zone the C library holds;
         it is not re-read per label, which would cost a file system look-up each.
@@ -44,6 +52,7 @@ public:
 
 private:
     bool m_bDisplayValue = false;
+    double m_dSecondsBelowSpan = 60000.0;
 };
 
 } // namespace Utils
