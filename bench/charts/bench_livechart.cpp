@@ -23,10 +23,13 @@
               time over the run. The longest frame is the largest gap between two
               consecutive ticks of that timer, less its 1 ms period: how long the
               GUI thread was blocked, whatever blocked it (appends, paints, page
-              jumps, time-line redraws).
-      burst   2,000,000 samples 1 ms apart pushed as fast as possible, one call
-              each, no event loop in between (the peers do not paint then; ours
-              paints its new samples every 20 ms, as it does by itself).
+              jumps, time-line redraws). Our view is placed so that the newest
+              sample reaches its right edge halfway through the run: the page
+              jump and the time line's move happen while measured.
+      burst   2,000,000 samples 1 ms apart from an empty chart, pushed as fast
+              as possible, one call each, no event loop in between: the peers do
+              not paint then, ours does what its throttle does by itself. A peer
+              still busy after 10 s is cut short there (rate of what it took).
       memory  10,000,000 samples into one GenericChart plot, burst style with
               the events processed every 20 ms, so that the chart redraws and
               trims as it would live; peak RSS (VmHWM) after 1,000,000 and after
@@ -44,11 +47,18 @@
         chart-live backend=<name> rate=<samples/s> cpu=<fraction> max_frame_ms=<ms>
         chart-burst backend=<name> samples_per_s=<n>
         chart-memory backend=genericchart rss_1m_kb=<n> rss_10m_kb=<n> ratio=<r>
-    and lines that explain them: chart-live-detail (samples pushed of those due,
-    gaps over 20 ms, the longest gap in CPU time of the GUI thread, which leaves
-    out time the machine gave to other processes), chart-burst-detail,
-    chart-live-harness (the timer alone, no chart), chart-peer (a peer this
-    build lacks) and chart-goal (the figures to reach, with all backends).
+    and lines that explain them:
+      chart-live-harness  the 1 ms timer and the sample loop alone, no chart, per rate
+      chart-live-detail   CPU less the harness's; samples pushed of those due (a
+                          backend that cannot keep up falls behind); gaps over
+                          20 ms and when the longest ended; the longest gap in CPU
+                          time of the GUI thread, which leaves out time the machine
+                          gave to other processes; paint events of the plot; the
+                          view's width and where the newest sample lies on it
+      chart-burst-detail  samples taken, seconds, the largest history seen
+      chart-memory-detail peak and present RSS and the largest history, per million
+      chart-peer          a peer this build lacks
+      chart-goal          the figures to reach, with all backends run
 */
 #include <charts/genericchart.h>
 #include <charts/valueovertime.h>
@@ -57,6 +67,7 @@
 #include <qwt_date_scale_engine.h>
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
+#include <qwt_scale_div.h>
 
 #ifdef UTILS_BENCH_HAVE_QCUSTOMPLOT
 #include <qcustomplot.h>
@@ -71,6 +82,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QPair>
 #include <QTimer>
 #include <QVector>
 #include <QWidget>
@@ -177,6 +189,40 @@ void settle(int ms = 50)
     } while (timer.elapsed() < ms);
 }
 
+QPair<double, double> axisView(const QwtPlot *plot)
+{
+    const QwtScaleDiv &div = plot->axisScaleDiv(QwtPlot::xBottom);
+    return qMakePair(div.lowerBound(), div.upperBound());
+}
+
+/*!
+    Counts the paint events of one widget. It filters the application, which
+    sees an event before the widget's own filters: QwtPlotDirectPainter paints
+    in a filter of the canvas that swallows the event.
+*/
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *target)
+        : m_target(target)
+    {
+        qApp->installEventFilter(this);
+    }
+    ~PaintCounter() override { qApp->removeEventFilter(this); }
+    long long count = 0;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == m_target && event->type() == QEvent::Paint)
+            ++count;
+        return false;
+    }
+
+private:
+    QWidget *m_target;
+};
+
 /*!
     The sensor signal: a slow wave with a little noise inside the value axis,
     tabled so that making a value costs every backend the same few cycles.
@@ -210,6 +256,12 @@ public:
     virtual QWidget *window() = 0;
     //! The plot inside it that is to measure 800 x 300.
     virtual QWidget *plotWidget() { return window(); }
+    //! The widget whose paint events show the curve painted.
+    virtual QWidget *paintTarget() { return plotWidget(); }
+    //! The time span on the x axis now, in ms since the epoch.
+    virtual QPair<double, double> view() const = 0;
+    //! Time of the newest sample, ms since the epoch.
+    virtual double newest() const = 0;
     //! The history before the run, through the cheapest call the backend offers.
     virtual void prefill(const std::vector<double> &x, const std::vector<double> &y) = 0;
     //! One sample as it arrives: time in ms since the epoch.
@@ -240,6 +292,9 @@ public:
     }
     QWidget *window() override { return m_chart.get(); }
     QWidget *plotWidget() override { return m_chart->poPlot(0); }
+    QWidget *paintTarget() override { return m_chart->poPlot(0)->canvas(); }
+    QPair<double, double> view() const override { return axisView(m_chart->poPlot(0)); }
+    double newest() const override { return m_chart->getLastXAxisValue(0); }
     void prefill(const std::vector<double> &x, const std::vector<double> &y) override
     {
         // The per-sample call, as a host that replays a recording would.
@@ -286,6 +341,7 @@ public:
         m_frames.start();
     }
     void stop() override { m_frames.stop(); }
+    double newest() const override { return m_newest; }
 
 protected:
     //! Moves the x axis to the 10 s up to the newest sample and paints, as a frame would.
@@ -318,6 +374,8 @@ public:
         m_y.reserve(kHistory + 1);
     }
     QWidget *window() override { return &m_plot; }
+    QWidget *paintTarget() override { return m_plot.canvas(); }
+    QPair<double, double> view() const override { return axisView(&m_plot); }
     int historySize() const override { return int(m_x.size()); }
     void prefill(const std::vector<double> &x, const std::vector<double> &y) override
     {
@@ -374,6 +432,10 @@ public:
         m_plot.yAxis->setRange(kYMin, kYMax);
     }
     QWidget *window() override { return &m_plot; }
+    QPair<double, double> view() const override
+    {
+        return qMakePair(m_plot.xAxis->range().lower * 1000.0, m_plot.xAxis->range().upper * 1000.0);
+    }
     int historySize() const override { return m_graph->dataCount(); }
     void prefill(const std::vector<double> &x, const std::vector<double> &y) override
     {
@@ -432,6 +494,11 @@ public:
         m_view.setChart(chart); // the view owns the chart, the chart its series and axes
     }
     QWidget *window() override { return &m_view; }
+    QWidget *paintTarget() override { return m_view.viewport(); }
+    QPair<double, double> view() const override
+    {
+        return qMakePair(double(m_axisX->min().toMSecsSinceEpoch()), double(m_axisX->max().toMSecsSinceEpoch()));
+    }
     int historySize() const override { return m_series->count(); }
     void prefill(const std::vector<double> &x, const std::vector<double> &y) override
     {
@@ -477,6 +544,8 @@ public:
     void push(double timeMs, double value) override { m_sink += timeMs + value; }
     void follow(double, double) override { }
     int historySize() const override { return 0; }
+    QPair<double, double> view() const override { return qMakePair(0.0, 0.0); }
+    double newest() const override { return 0.0; }
     double m_sink = 0.0;
 
 private:
@@ -538,6 +607,9 @@ struct LiveResult
     long long pushed = 0;
     long long due = 0;
     long long ticks = 0;
+    long long paints = 0;
+    QPair<double, double> view; // the x axis at the end
+    double newest = 0.0;
 };
 
 /*!
@@ -563,6 +635,7 @@ LiveResult runLive(Backend &backend, double rate, double seconds, const Signal &
     settle();
 
     LiveResult result;
+    const PaintCounter paints(backend.paintTarget());
     QEventLoop loop;
     QTimer ticker;
     ticker.setInterval(1);
@@ -602,11 +675,16 @@ LiveResult runLive(Backend &backend, double rate, double seconds, const Signal &
             return;
         }
         result.due = (long long)(elapsed / periodMs);
-        for (long long k = result.pushed; k < result.due; ++k) {
+        const long long first = result.pushed;
+        for (long long k = first; k < result.due; ++k) {
             backend.push(wallStart + double(k) * periodMs, signal.at(kHistory + k));
             result.pushed = k + 1;
-            // Checked after every sample: one append of a slow peer can take a second.
-            if (msBetween(now, Steady::now()) > kTickBudgetMs)
+            // The budget is looked at after 1, 2, 4, ... 64 samples, then every 64th: one
+            // append of a slow peer can take a second, while a clock read per sample
+            // would weigh on the fast ones.
+            const long long done = k + 1 - first;
+            const bool look = done <= 64 ? (done & (done - 1)) == 0 : done % 64 == 0;
+            if (look && msBetween(now, Steady::now()) > kTickBudgetMs)
                 break;
         }
     });
@@ -615,6 +693,9 @@ LiveResult runLive(Backend &backend, double rate, double seconds, const Signal &
     ticker.stop();
     backend.stop();
     result.cpu = cpuSpan / (wallSpan / 1000.0);
+    result.paints = paints.count;
+    result.view = backend.view();
+    result.newest = backend.newest();
     backend.window()->hide();
     return result;
 }
@@ -808,10 +889,15 @@ int main(int argc, char **argv)
                 const LiveResult r = runLive(*backend, rate, options.seconds, signal);
                 std::printf("chart-live backend=%s rate=%.0f cpu=%.4f max_frame_ms=%.2f\n", info.name, rate, r.cpu,
                     r.maxFrameMs);
+                // paints: paint events of the plot canvas (or widget); view_s: width of
+                // the x axis at the end; newest_at: where the newest sample lies on it
+                // (0 left, 1 right; a peer's axis ends at the newest of its last frame).
                 std::printf("chart-live-detail backend=%s rate=%.0f cpu_less_harness=%.4f pushed=%lld due=%lld "
-                            "ticks=%lld gaps_over_20ms=%lld max_frame_at_s=%.2f max_frame_cpu_ms=%.2f\n",
+                            "ticks=%lld gaps_over_20ms=%lld max_frame_at_s=%.2f max_frame_cpu_ms=%.2f paints=%lld "
+                            "view_s=%.2f newest_at=%.3f\n",
                     info.name, rate, r.cpu - bare.cpu, r.pushed, r.due, r.ticks, r.gapsOver20, r.maxFrameAtS,
-                    r.maxFrameCpuMs);
+                    r.maxFrameCpuMs, r.paints, (r.view.second - r.view.first) / 1000.0,
+                    (r.newest - r.view.first) / (r.view.second - r.view.first));
                 live[{ info.name, int(rate) }] = r;
             }
         }
