@@ -803,6 +803,8 @@ void AbstractChart::timeLineRangeUpdated(const double &left, const double &right
 
 void AbstractChart::timeLineScaleUpdated()
 {
+    // The time line drew its overview anew.
+    d->overviewRedrawn();
     const Rules::Window overview = d->timeLineWindow();
     d->timeLine->vEnablePrev(d->firstX() < overview.first);
     d->timeLine->vEnableNext(d->newestX() > overview.second);

@@ -234,6 +234,7 @@ bool ChartEngine::trim(ChartCurve &c)
         return false;
     c.series->vEraseFirstValues(drop);
     c.lastDrawn = std::max(c.lastDrawn - drop, -1);
+    c.overviewDrawn = std::max(c.overviewDrawn - drop, -1);
     sync(c);
     return true;
 }
@@ -290,7 +291,8 @@ void ChartEngine::append(int plot, double data, bool update, double data1, doubl
     ValueOverTime &series = *p.curves.front().series;
     const int size = series.size();
     const double last = size > 0 ? series.pxData()[size - 1] : 0.0;
-    const double time = Rules::stampTime(timeValue, wallClockMs());
+    // The clock is read only for a sample without a time of its own.
+    const double time = timeValue > 1.0 ? timeValue : wallClockMs();
     const Rules::SampleRules &rules = config.rules;
     const bool withExtra = dataExtra > Rules::kNoExtraValue && !extra.empty();
     // The marker's values first: the append below may redraw, which shows them.
@@ -342,7 +344,7 @@ void ChartEngine::appendCurves(int plot, const QList<double> &values, const QLis
     ChartPlot &p = plots[size_t(plot)];
     const ValueOverTime &first = *p.curves.front().series;
     const double previous = first.size() > 0 ? first.pxData()[first.size() - 1] : 0.0;
-    const double time = Rules::stampTime(timeValue, wallClockMs());
+    const double time = timeValue > 1.0 ? timeValue : wallClockMs();
     const Rules::SampleRules &rules = config.rules;
     const bool pause = breaks && Rules::needsBreak(rules, previous, time);
     if (toMarker) {
@@ -421,6 +423,7 @@ void ChartEngine::clear(int plot)
     for (ChartCurve &c : plots[size_t(plot)].curves) {
         c.series->vClear();
         c.lastDrawn = -1;
+        c.overviewDrawn = -1;
         sync(c);
     }
 }
@@ -492,8 +495,10 @@ void ChartEngine::pushMarkers()
         p.markerPending = false;
         switch (p.listForm) {
         case ChartPlot::ListForm::None:
-            p.marker->vSetValue(p.markerValue, p.markerSecond);
-            if (p.secondMarker)
+            // A marker repaints at every value it is given: only new values.
+            if (p.marker->s64Value() != p.markerValue || p.marker->getSecondValue() != p.markerSecond)
+                p.marker->vSetValue(p.markerValue, p.markerSecond);
+            if (p.secondMarker && p.secondMarker->s64Value() != p.markerSecond)
                 p.secondMarker->vSetValue(p.markerSecond, 0.0);
             break;
         case ChartPlot::ListForm::Color:
@@ -573,29 +578,36 @@ void ChartEngine::redrawNow()
     // The overview shows the history: when its oldest part went, it is drawn anew.
     const bool overviewChanged = trimmed;
     trimmed = false;
-    const auto paintNew = [this](ChartCurve &c, QwtPlot *plot, CustomCurve *curve) {
+    // Paints the samples after \a drawn; \a wholeColumns waits until they reach a new pixel column.
+    const auto paintNew = [this](ChartCurve &c, QwtPlot *plot, CustomCurve *curve, int &drawn, bool wholeColumns) {
         const int size = c.series->size();
-        if (!curve || !plot || curve->isVisible() == false || size - 1 <= c.lastDrawn || !plot->isVisible())
+        if (!curve || !plot || !curve->isVisible() || size - 1 <= drawn || !plot->isVisible())
             return;
-        const int from = std::max(c.lastDrawn, 0);
+        const int from = std::max(drawn, 0);
         const QwtScaleMap xMap = plot->canvasMap(curve->xAxis());
         const double *x = c.series->pxData();
         const double left = std::min(xMap.s1(), xMap.s2());
         const double right = std::max(xMap.s1(), xMap.s2());
-        if (x[size - 1] < left || x[from] > right)
-            return; // nothing new in view
-        // Only the strip of the new samples is repainted.
+        if (x[size - 1] < left || x[from] > right) {
+            drawn = size - 1; // nothing new in view
+            return;
+        }
         const int a = PlotCommon::toPixel(xMap.transform(x[from]));
         const int b = PlotCommon::toPixel(xMap.transform(x[size - 1]));
+        if (wholeColumns && a == b)
+            return;
+        // Only the strip of the new samples is repainted.
         const QRect strip = QRect(QPoint(std::min(a, b) - 2, 0), QPoint(std::max(a, b) + 2, plot->canvas()->height()));
         painter->setClipRegion(strip);
         painter->drawSeries(curve, from, size - 1);
+        drawn = size - 1;
     };
     for (ChartPlot &p : plots) {
         for (ChartCurve &c : p.curves) {
             if (!c.hidden) {
-                paintNew(c, p.plot, c.curve);
-                paintNew(c, timeLine->poPlot(), c.overview);
+                paintNew(c, p.plot, c.curve, c.lastDrawn, false);
+                // The overview shows a minute or more: a redraw often adds nothing it could show yet.
+                paintNew(c, timeLine->poPlot(), c.overview, c.overviewDrawn, true);
             }
             c.lastDrawn = c.series->size() - 1;
         }
@@ -604,12 +616,22 @@ void ChartEngine::redrawNow()
     }
     if (!plots.empty()) {
         for (ChartCurve &c : extra) {
-            paintNew(c, plots.front().plot, c.curve);
+            paintNew(c, plots.front().plot, c.curve, c.lastDrawn, false);
             c.lastDrawn = c.series->size() - 1;
         }
     }
-    if (overviewChanged)
+    if (overviewChanged) {
         timeLine->poPlot()->replot();
+        overviewRedrawn();
+    }
+}
+
+void ChartEngine::overviewRedrawn()
+{
+    for (ChartPlot &p : plots) {
+        for (ChartCurve &c : p.curves)
+            c.overviewDrawn = c.series->size() - 1;
+    }
 }
 
 void ChartEngine::replotAll()
@@ -623,6 +645,7 @@ void ChartEngine::replotAll()
     for (ChartCurve &c : extra)
         c.lastDrawn = c.series->size() - 1;
     timeLine->poPlot()->replot();
+    overviewRedrawn();
 }
 
 int ChartEngine::plotIndexOf(const QObject *sender) const

@@ -71,6 +71,8 @@ struct ChartCurve
     CustomCurve *curve = nullptr;
     CustomCurve *overview = nullptr;
     int lastDrawn = -1;
+    //! The same for the copy on the time line, which is drawn anew only with the time line.
+    int overviewDrawn = -1;
     bool hidden = false;
     // What the curves were last given; they are handed the arrays again when
     // these change (new memory at once, more samples at the next redraw).
@@ -150,6 +152,8 @@ public:
     void frame();
     void redrawNow();
     void replotAll();
+    //! The time line was drawn anew: its curves are complete.
+    void overviewRedrawn();
     void setVisibleWindow(double left, double right);
     void pushMarkers();
 
