@@ -543,21 +543,25 @@ void tst_Plot::zoomToolBar()
     QCOMPARE(bar->parentWidget(), parent);
     QCOMPARE(m_plot->parentWidget(), bar);
     QCOMPARE(m_plot->embedZoomToolBar(), bar); // built once
+    m_host->layout()->addWidget(bar); // where the plot was
+    bar->show();
     QHBoxLayout *container = m_plot->getPlotContainer();
     QCOMPARE(container->count(), 2);
     QCOMPARE(container->itemAt(1)->widget(), static_cast<QWidget *>(m_plot));
-    QLayout *column = container->itemAt(0)->widget()->layout();
+    QWidget *column = container->itemAt(0)->widget();
+    QTRY_COMPARE(column->height(), 70);
     QPushButton *in = m_plot->poZoomInButton();
     QPushButton *reset = m_plot->poResetZoomButton();
     QPushButton *out = m_plot->poZoomOutButton();
-    QCOMPARE(column->itemAt(0)->widget(), static_cast<QWidget *>(in));
-    QCOMPARE(column->itemAt(1)->widget(), static_cast<QWidget *>(reset));
-    QCOMPARE(column->itemAt(2)->widget(), static_cast<QWidget *>(out));
-    QCOMPARE(in->toolTip(), QStringLiteral("Zoom In"));
-    QCOMPARE(out->toolTip(), QStringLiteral("Zoom Out"));
-    QCOMPARE(reset->toolTip(), QStringLiteral("Reset Zoom"));
-    for (QPushButton *button : {in, reset, out})
-        QVERIFY(!button->icon().isNull() && button->text().isEmpty());
+    const QList<QPushButton *> buttons{in, reset, out};
+    const QStringList tips{QStringLiteral("Zoom In"), QStringLiteral("Reset Zoom"), QStringLiteral("Zoom Out")};
+    const QList<QSize> sizes{QSize(20, 20), QSize(20, 10), QSize(20, 20)};
+    for (int i = 0; i < buttons.size(); ++i) {
+        QCOMPARE(column->layout()->itemAt(i)->widget(), static_cast<QWidget *>(buttons[i]));
+        QCOMPARE(buttons[i]->toolTip(), tips[i]);
+        QCOMPARE(buttons[i]->size(), sizes[i]);
+        QVERIFY(!buttons[i]->icon().isNull() && buttons[i]->text().isEmpty());
+    }
 
     QSignalSpy magnified(m_plot, SIGNAL(PlotScrollMagnified(double)));
     QTest::mouseClick(in, Qt::LeftButton);
