@@ -22,6 +22,8 @@ private Q_SLOTS:
     void setOutputsReplacesRecords();
     void addComponentAffectsLaterRecords();
     void multiConstantsWindowsAndWords();
+    void wordsAreUnsigned_data();
+    void wordsAreUnsigned();
     void uncheckedOperationsIgnoreBadOutputs_data();
     void uncheckedOperationsIgnoreBadOutputs();
     void colourSetters();
@@ -157,11 +159,38 @@ void tst_ThresholdManager::multiConstantsWindowsAndWords()
     QVERIFY(manager.hasWindows(2, 1));
     QVERIFY(!manager.hasWindows(1, 1));
     QVERIFY(!manager.hasWindows(2, 2));
+}
 
-    // Words are unsigned numbers: 0xFFFF is 65535, not -1.
-    manager.setFromValues(1, 0, 0xFFFF, 0xFFFF, 0x8000, 0);
-    QCOMPARE(manager.high(1, 0), 32767.0);
-    QCOMPARE(manager.low(1, 0), 0.0);
+void tst_ThresholdManager::wordsAreUnsigned_data()
+{
+    QTest::addColumn<uint>("a");
+    QTest::addColumn<uint>("b");
+    QTest::addColumn<uint>("c");
+    QTest::addColumn<double>("high");
+    QTest::addColumn<double>("low");
+    QTest::addColumn<int>("noise");
+    QTest::addColumn<QString>("text");
+    // Offset 0x8000; the string written back carries the words read.
+    QTest::newRow("0xFFFF is 65535, not -1") << 0xFFFFu << 0xFFFFu << 0x8000u << 32767.0 << 0.0 << 0
+                                             << "FFFFFFFF80008000";
+    QTest::newRow("words at 2^31") << 0x80000010u << 0x80000008u << 0x80000000u << 2147450888.0 << 2147450880.0 << 8
+                                   << "8000001080000008800000007FFFFFF8";
+    QTest::newRow("noise word at 2^31") << 0x80000000u << 0x8010u << 0x8005u << 16.0 << 5.0 << 2147450864
+                                        << "80000000801080050000";
+}
+
+void tst_ThresholdManager::wordsAreUnsigned()
+{
+    QFETCH(uint, a);
+    QFETCH(uint, b);
+    QFETCH(uint, c);
+    ThresholdMultiManager manager(1);
+    manager.setOutputs(1);
+    manager.setFromValues(1, 0, a, b, c, 0xFFFFFFFFu);
+    QTEST(manager.high(1, 0), "high");
+    QTEST(manager.low(1, 0), "low");
+    QTEST(manager.noise(1, 0), "noise");
+    QTEST(QString::fromStdString(manager.toHexString(1, 0)), "text");
 }
 
 void tst_ThresholdManager::uncheckedOperationsIgnoreBadOutputs_data()

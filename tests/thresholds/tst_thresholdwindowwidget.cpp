@@ -208,6 +208,7 @@ void tst_ThresholdWindowWidget::setNoise_data()
     QTest::addColumn<uint>("upperThickness");
     QTest::newRow("negative upper takes the lower") << 5 << -1 << 5u << 5u;
     QTest::newRow("each its own") << 3 << 7 << 3u << 7u;
+    QTest::newRow("upper 0 is its own: a bare line") << 5 << 0 << 5u << 0u;
     QTest::newRow("negative lower is no band") << -2 << -1 << 0u << 0u;
 }
 
