@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "plottesthelpers.h"
+
 #include "plot/plot.h"
 #include "plot/plotmarker.h"
 #include "thresholds/customwidget.h"
@@ -30,24 +32,15 @@ int row(const QwtPlot &plot, double value)
     return int(plot.transform(QwtPlot::yLeft, value));
 }
 
-/*
-    Drags \a mark with the left button so that its top edge goes to canvas row
-    \a targetTop, in steps as a hand would. Moves are sent to the marker itself
-    (QTest::mouseMove only moves the cursor in Qt 5).
-*/
+//! Drags \a mark by its top edge to canvas row \a targetTop, in steps as a hand would.
 void drag(PlotMarker *mark, int targetTop)
 {
     const QPoint grip(30, 1);
     QTest::mousePress(mark, Qt::LeftButton, Qt::NoModifier, grip);
     const int startTop = mark->y();
-    const int steps = 8;
-    for (int i = 1; i <= steps; ++i) {
-        const int top = startTop + (targetTop - startTop) * i / steps;
-        const QPoint local(grip.x(), top + grip.y() - mark->y());
-        QMouseEvent move(QEvent::MouseMove, local, mark->mapToGlobal(local), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
-        QApplication::sendEvent(mark, &move);
-    }
+    for (int i = 1; i <= 8; ++i)
+        PlotTest::dragMove(mark, QPoint(grip.x(), startTop + (targetTop - startTop) * i / 8 + grip.y() - mark->y()),
+                           Qt::LeftButton);
     QTest::mouseRelease(mark, Qt::LeftButton, Qt::NoModifier, grip);
 }
 
@@ -103,35 +96,24 @@ private Q_SLOTS:
         QVERIFY(!window->poUpperZone()->isVisible() && !window->poLowerZone()->isVisible());
     }
 
-    void keepMarksApart()
-    {
-        window->setMinDifference(4);
-        window->setLowerMark(40);
-        window->setUpperMark(60);
-        QCOMPARE(upperMark()->lower(), 42.0);
-        QCOMPARE(lowerMark()->upper(), 58.0);
-        QCOMPARE(upperMark()->value() - lowerMark()->value(), 20.0);
-        // Overlapping opens the whole scale to both marks.
-        window->allowOverlapping(true);
-        QCOMPARE(upperMark()->lower(), 0.0);
-        QCOMPARE(lowerMark()->upper(), 100.0);
-    }
-
     void dragStopsAtTheOtherMark_data()
     {
         QTest::addColumn<uint>("mark");
+        QTest::addColumn<double>("minDifference");
         QTest::addColumn<double>("towards");
         QTest::addColumn<double>("stop");
-        QTest::newRow("upper dragged far down stops half a unit above the lower") << 1u << 2.0 << 40.5;
-        QTest::newRow("lower dragged far up stops half a unit below the upper") << 0u << 98.0 << 59.5;
+        QTest::newRow("upper dragged far down stops half a unit above the lower") << 1u << 1.0 << 2.0 << 40.5;
+        QTest::newRow("lower dragged far up stops half a unit below the upper") << 0u << 1.0 << 98.0 << 59.5;
+        QTest::newRow("minimum difference 4: two units below the upper") << 0u << 4.0 << 98.0 << 58.0;
     }
 
     void dragStopsAtTheOtherMark()
     {
         QFETCH(uint, mark);
+        QFETCH(double, minDifference);
         QFETCH(double, towards);
         QFETCH(double, stop);
-
+        window->setMinDifference(minDifference);
         window->setLowerMark(40);
         window->setUpperMark(60);
         QSignalSpy spy(window.get(), &ThresholdWindowWidget::emitValueChanged);
@@ -145,15 +127,17 @@ private Q_SLOTS:
         QCOMPARE(spy.count(), 1);
         QCOMPARE(spy.at(0), (QList<QVariant>{mark, value}));
         // The other mark's limit followed the new value.
-        QCOMPARE(mark ? other->upper() : other->lower(), mark ? value - 0.5 : value + 0.5);
+        QCOMPARE(mark ? other->upper() : other->lower(), mark ? value - minDifference / 2 : value + minDifference / 2);
     }
 
     void dragAcrossWithOverlapping()
     {
         window->setBothWindowZoneVisible(true);
-        window->allowOverlapping(true);
         window->setLowerMark(40);
         window->setUpperMark(60);
+        // Overlapping opens the whole scale to both marks.
+        window->allowOverlapping(true);
+        QCOMPARE(lowerMark()->upper(), 100.0);
 
         drag(upperMark(), row(*plot, 25.0));
         const double upper = upperMark()->value();
@@ -284,7 +268,6 @@ private Q_SLOTS:
         }
 
         const QImage image = plot->canvas()->grab().toImage();
-        plot->grab().save(QDir::temp().filePath(QStringLiteral("tst_thresholdwindow_%1.png").arg(QLatin1String(crossed ? "crossed" : "normal"))));
         for (double outside : {85.0, 15.0})
             QCOMPARE(shaded(image, row(*plot, outside)), crossed ? 0 : 1);
         for (double inside : {52.0, 48.0})
@@ -327,9 +310,7 @@ private Q_SLOTS:
         // reaches the new top of the scale.
         QWidget *canvas = plot->canvas();
         const QPoint centre = canvas->rect().center();
-        QWheelEvent wheel(centre, canvas->mapToGlobal(centre), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(canvas, &wheel);
+        PlotTest::wheel(canvas, centre, -120);
         const QwtScaleDiv &scale = plot->axisScaleDiv(QwtPlot::yLeft);
         QVERIFY2(scale.upperBound() - scale.lowerBound() < 99.0,
                  qPrintable(QStringLiteral("no zoom: %1..%2").arg(scale.lowerBound()).arg(scale.upperBound())));
