@@ -31,7 +31,7 @@ const QDateTime exampleTime(QDate(2026, 11, 13), QTime(14, 3, 7, 412));
 
 // The singleton's count is process-wide state: the functions below run in
 // declaration order and each leaves the count at 0 with no instance, except the
-// last one, which drives it below zero on purpose.
+// last row of the last one, which drives it below zero on purpose.
 class tst_Log : public QObject
 {
     Q_OBJECT
@@ -102,46 +102,6 @@ private Q_SLOTS:
         Log::releaseInstance(false);
     }
 
-    void requestAndRelease()
-    {
-        Log *first = Log::requestInstance();
-        Log *second = Log::requestInstance();
-        QCOMPARE(first, second);
-        QPointer<Log> watch(first);
-        Log::releaseInstance(false);
-        QVERIFY(watch); // one holder left
-        Log::releaseInstance(false);
-        QVERIFY(!watch);
-    }
-
-    void forcedReleaseStillCounts()
-    {
-        QPointer<Log> first(Log::requestInstance());
-        Log::requestInstance();
-        Log::releaseInstance(true); // count 2 -> 1, instance gone anyway
-        QVERIFY(!first);
-
-        QPointer<Log> fresh(Log::requestInstance()); // count 2 again
-        QVERIFY(fresh);
-        Log::releaseInstance(false);
-        QVERIFY(fresh); // count was 2: still held
-        Log::releaseInstance(false);
-        QVERIFY(!fresh);
-    }
-
-    void releaseWithoutInstance()
-    {
-        Log::requestInstance();
-        Log::requestInstance();
-        Log::releaseInstance(true); // no instance, count 1
-        Log::releaseInstance(false); // count 0, nothing to destroy
-
-        // The count really is 0: one request and one release make a full cycle.
-        QPointer<Log> fresh(Log::requestInstance());
-        Log::releaseInstance(false);
-        QVERIFY(!fresh);
-    }
-
     void temporaryFile()
     {
         QString path;
@@ -189,15 +149,33 @@ private Q_SLOTS:
         QVERIFY(!watch); // the file gave back the last reference
     }
 
-    void countBelowZeroAfterForcedRelease()
+    // The reference count of the logger, step by step. Runs last: the last row
+    // leaves the process-wide count below zero on purpose.
+    void referenceCount_data()
     {
-        Log::releaseInstance(true); // no instance, count 0 -> -1
+        QTest::addColumn<QByteArray>("steps"); // q: request, r: release, f: forced release
+        QTest::addColumn<QByteArray>("alive"); // whether an instance exists after each step
+        QTest::newRow("the last of two holders destroys") << QByteArray("qqrr") << QByteArray("1110");
+        QTest::newRow("a forced release destroys and still counts") << QByteArray("qqfqrr") << QByteArray("110110");
+        QTest::newRow("releases without an instance count too") << QByteArray("qqfrqr") << QByteArray("110010");
+        QTest::newRow("below zero a release keeps the instance") << QByteArray("fqrf") << QByteArray("0110");
+    }
 
-        QPointer<Log> fresh(Log::requestInstance()); // count -1 -> 0
-        Log::releaseInstance(false); // count before was 0, not 1: the instance stays
-        QVERIFY(fresh);
-        Log::releaseInstance(true);
-        QVERIFY(!fresh);
+    void referenceCount()
+    {
+        QFETCH(QByteArray, steps);
+        QFETCH(QByteArray, alive);
+        QPointer<Log> held;
+        for (int i = 0; i < steps.size(); ++i) {
+            if (steps[i] == 'q') {
+                Log *log = Log::requestInstance();
+                QVERIFY(!held || held == log); // one instance for all holders
+                held = log;
+            } else {
+                Log::releaseInstance(steps[i] == 'f');
+            }
+            QVERIFY2(bool(held) == (alive[i] == '1'), qPrintable(QStringLiteral("after step %1").arg(i + 1)));
+        }
     }
 };
 
