@@ -108,25 +108,6 @@ private Q_SLOTS:
         assigned = event;
         QCOMPARE(assigned.type(), type);
         QCOMPARE(assigned.data(), binary);
-        event.setData(std::string());
-        QCOMPARE(event.data(), std::string());
-
-        // Delivered through the event queue like any other event.
-        class Sink : public QObject
-        {
-        public:
-            std::string received;
-            bool event(QEvent *e) override
-            {
-                if (e->type() < QEvent::User)
-                    return QObject::event(e);
-                received = static_cast<Utils::DataEvent *>(e)->data();
-                return true;
-            }
-        } sink;
-        QCoreApplication::postEvent(&sink, new Utils::DataEvent(std::string("sample 42"), type));
-        QCoreApplication::sendPostedEvents(&sink);
-        QCOMPARE(sink.received, std::string("sample 42"));
     }
 };
 

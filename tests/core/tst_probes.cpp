@@ -60,21 +60,21 @@ private Q_SLOTS:
         GetMemoryUsageBytes();
         // Mapped directly rather than through malloc, whose freed blocks a sanitizer
         // keeps in quarantine, so that giving the block back shows too.
-    #if defined(_WIN32)
+#if defined(_WIN32)
         void *block = std::malloc(size);
         QVERIFY(block);
-    #else
+#else
         void *block = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
         QVERIFY(block != MAP_FAILED);
-    #endif
+#endif
         const double grown = GetMemoryGapBytes();
         QVERIFY2(grown >= 63 * mib, qPrintable(QString::number(grown)));
         QCOMPARE(GetMemoryGapKBytes(), grown * 0.0009765625);
-    #if defined(_WIN32)
+#if defined(_WIN32)
         std::free(block);
-    #else
+#else
         ::munmap(block, size);
-    #endif
+#endif
         QVERIFY2(GetMemoryGapBytes() < 8 * mib, qPrintable(QString::number(GetMemoryGapBytes())));
     }
 
@@ -106,10 +106,8 @@ private Q_SLOTS:
     {
         QFETCH(UtilsUInt64, start);
         QFETCH(UtilsUInt64, stop);
-        QFETCH(quint32, ms);
-        QFETCH(quint32, us);
-        QCOMPARE(GetTimeMs(start, stop), ms);
-        QCOMPARE(GetTimeUs(start, stop), us);
+        QTEST(GetTimeMs(start, stop), "ms");
+        QTEST(GetTimeUs(start, stop), "us");
     }
 
     void stopWatch()

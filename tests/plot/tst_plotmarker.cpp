@@ -259,7 +259,6 @@ private Q_SLOTS:
     void hoverWidths()
     {
         QFETCH(int, width);
-        QFETCH(int, entered);
         QFETCH(int, left);
 
         PlotMarker marker(m_plot);
@@ -275,7 +274,7 @@ private Q_SLOTS:
 
         marker.setMoveable(true);
         hover(&marker, true);
-        QCOMPARE(marker.pen().width(), entered);
+        QTEST(marker.pen().width(), "entered");
         hover(&marker, false);
         QCOMPARE(marker.pen().width(), left);
         QCOMPARE(Utils::MarkerPen::shrunkWidth(Utils::MarkerPen::enlargedWidth(width)), left);
