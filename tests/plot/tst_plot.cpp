@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "modaldialogdriver.h"
 #include "plottesthelpers.h"
 
 #include <plot/plot.h>
@@ -50,50 +51,41 @@ int readAxisType()
     return QSettings(settingsFile(), QSettings::IniFormat).value(QStringLiteral("plot/xPlotAxisType"), -1).toInt();
 }
 
-//! What a popup menu offered, and the click on one of its entries.
-struct MenuSeen
-{
-    QStringList offered;
-    QStringList checked;
-    bool shown = false;
-
-    void poll(const QString &pick, int triesLeft)
-    {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        if (!menu) {
-            if (triesLeft > 0)
-                QTimer::singleShot(10, [this, pick, triesLeft]() { poll(pick, triesLeft - 1); });
-            return;
-        }
-        shown = true;
-        QAction *target = nullptr;
-        for (QAction *action : menu->actions()) {
-            offered << action->text();
-            if (action->isChecked())
-                checked << action->text();
-            if (action->text() == pick)
-                target = action;
-        }
-        if (target)
-            QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(target).center());
-        else
-            menu->close();
-    }
-};
-
 void rightClick(QWidget *widget)
 {
     QTest::mousePress(widget, Qt::RightButton, Qt::NoModifier, widget->rect().center());
 }
 
+//! What a popup menu offered and had checked.
+struct MenuSeen
+{
+    QStringList offered, checked;
+    bool shown = false;
+};
+
 //! Right-clicks the time axis and picks \a pick from its menu (an unknown entry dismisses it).
 MenuSeen pickFromAxisMenu(Plot *plot, const QString &pick)
 {
-    MenuSeen seen;
-    QTimer::singleShot(0, [&seen, pick]() { seen.poll(pick, 200); });
+    auto seen = std::make_shared<MenuSeen>();
+    auto shown = TestSupport::whenModal<QMenu>(
+        [seen, pick](QMenu *menu) {
+            QAction *target = nullptr;
+            for (QAction *action : menu->actions()) {
+                seen->offered << action->text();
+                if (action->isChecked())
+                    seen->checked << action->text();
+                if (action->text() == pick)
+                    target = action;
+            }
+            if (target)
+                QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(target).center());
+            else
+                menu->close();
+        },
+        3000, &QApplication::activePopupWidget);
     rightClick(plot->axisWidget(QwtPlot::xBottom));
-    (void)QTest::qWaitFor([&seen]() { return seen.shown; }, 3000); // no poll may outlive seen
-    return seen;
+    seen->shown = QTest::qWaitFor([shown]() { return *shown; }, 3000);
+    return *seen;
 }
 
 } // namespace
