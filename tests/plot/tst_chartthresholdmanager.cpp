@@ -40,7 +40,7 @@ private Q_SLOTS:
         m_host.reset();
     }
 
-    void addAndFind()
+    void addFindAndSet()
     {
         ChartThresholdManager manager(m_plot);
         const int childrenBefore = m_plot->canvas()->findChildren<PlotMarker *>().size();
@@ -55,11 +55,19 @@ private Q_SLOTS:
         QCOMPARE(manager.item("upper"), item);
         QCOMPARE(manager.item("lower"), nullptr);
         manager.setItemValue("upper", 120.0);
+        manager.setItemRange("upper", 10.0, 90.0);
         QVERIFY(marker->isVisible());
         QCOMPARE(item->value(), 120.0);
-        manager.setItemValue("", 5.0); // ignored
-        manager.setItemValue("unknown", 5.0);
+        QCOMPARE(Range(marker->lower(), marker->upper()), Range(10.0, 90.0));
+        // Empty and unknown names are ignored.
+        for (const std::string name : {"", "unknown"}) {
+            manager.setItemValue(name, 5.0);
+            manager.setItemRange(name, 1.0, 2.0);
+            manager.removeItem(name);
+        }
+        QCOMPARE(manager.item("upper"), item);
         QCOMPARE(item->value(), 120.0);
+        QCOMPARE(Range(marker->lower(), marker->upper()), Range(10.0, 90.0));
     }
 
     void dragEndEmitsBothForms()
@@ -89,9 +97,6 @@ private Q_SLOTS:
         record(manager);
         auto *kept = static_cast<PlotMarker *>(manager.addItem("kept"));
         manager.addItem("gone");
-        manager.removeItem("");
-        manager.removeItem("unknown");
-        QVERIFY(manager.item("gone"));
         manager.removeItem("gone");
         QCOMPARE(manager.item("gone"), nullptr);
         QVERIFY(manager.item("kept"));
@@ -100,18 +105,6 @@ private Q_SLOTS:
         manager.setItemValue("kept", 100.0);
         dragDown(kept, 15);
         QVERIFY(m_byName == ByName({{"kept", kept->value()}}));
-    }
-
-    void setItemRange()
-    {
-        ChartThresholdManager manager(m_plot);
-        auto *marker = static_cast<PlotMarker *>(manager.addItem("r"));
-        manager.setItemRange("r", 10.0, 90.0);
-        QCOMPARE(marker->lower(), 10.0);
-        QCOMPARE(marker->upper(), 90.0);
-        manager.setItemRange("", 1.0, 2.0);
-        manager.setItemRange("missing", 1.0, 2.0);
-        QCOMPARE(marker->lower(), 10.0);
     }
 
     void replacedNameKeepsBothItems()
@@ -153,7 +146,6 @@ private Q_SLOTS:
 
 private:
     //! Records both itemChanged forms in emission order.
-
     void record(ChartThresholdManager &manager)
     {
         // std::string is not a registered meta type, so the name form is caught by a lambda.
