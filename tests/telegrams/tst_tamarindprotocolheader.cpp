@@ -37,21 +37,6 @@ class tst_TamarindProtocolHeader : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void toString()
-    {
-        QCOMPARE(TamarindProtocolHeader().oToString(), std::string(24, '0'));
-        QCOMPARE(presetHeader().oToString(), presetText);
-
-        TamarindProtocolHeader example;
-        example.vSetStart(0x02);
-        example.vSetVersion(0x01);
-        example.vSetMessageId(0x05);
-        example.vSetProtocolLenght(0x0014);
-        example.vSetMessageType(0x03);
-        example.vSetAdress(1);
-        QCOMPARE(example.oToString(), std::string("020105001400030001000000"));
-    }
-
     void setFromString_data()
     {
         // Each read into presetHeader(); "after" is the result written back with
