@@ -100,81 +100,65 @@ private Q_SLOTS:
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("propertyName");
         QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("signalList"); // the class's own signals in meta-object order, when pinned
         // clang-format off
-        QTest::newRow("title") << "TitleComponent" << 0 << "icon" << QVariant("clock.svg");
-        QTest::newRow("spacer") << "SpacerElement" << 1 << "height" << QVariant(25);
-        QTest::newRow("description") << "DescriptionElement" << 2 << "description" << QVariant("Place the target");
+        QTest::newRow("title") << "TitleComponent" << 0 << "icon" << QVariant("clock.svg") << QString();
+        QTest::newRow("spacer") << "SpacerElement" << 1 << "height" << QVariant(25) << QString();
+        QTest::newRow("description") << "DescriptionElement" << 2 << "description" << QVariant("Place the target")
+                                     << QString();
         QTest::newRow("description with images") << "DescriptionComponent" << 3 << "images"
-                                                 << QVariant(QStringList { "a.png", "b.png" });
-        QTest::newRow("url") << "UrlElement" << 7 << "url" << QVariant("https://example.invalid/manual");
-        QTest::newRow("spin box") << "SpinBoxComponent" << 9 << "spinTo" << QVariant(100);
-        QTest::newRow("double spin box") << "DoubleSpinBoxComponent" << 10 << "step" << QVariant(0.5);
-        QTest::newRow("switch") << "SwitchComponent" << 11 << "switchText" << QVariant("Laser on");
-        QTest::newRow("label") << "LabelComponent" << 13 << "xPos" << QVariant::fromValue<uchar>(12);
-        QTest::newRow("button") << "ButtonComponent" << 14 << "labelText" << QVariant("Press to teach");
-        QTest::newRow("buttons") << "ButtonsComponent" << 15 << "columns" << QVariant::fromValue<uchar>(3);
-        QTest::newRow("box") << "BoxComponent" << 16 << "buttonColor" << QVariant("white");
-        QTest::newRow("check box") << "CheckBoxComponent" << 17 << "spinText" << QVariant("Averaging");
-        QTest::newRow("combo box") << "ComboBoxComponent" << 18 << "helpText" << QVariant("Choose the mode");
+                                                 << QVariant(QStringList { "a.png", "b.png" }) << QString();
+        QTest::newRow("url") << "UrlElement" << 7 << "url" << QVariant("https://example.invalid/manual") << QString();
+        QTest::newRow("spin box") << "SpinBoxComponent" << 9 << "spinTo" << QVariant(100)
+                                  << "spinValueChanged(int) spinFromChanged(int) spinToChanged(int) stepChanged(int) "
+                                     "iconTextChanged(QString) spinTextChanged(QString) emitButtonClicked() "
+                                     "editingFinished() vTextChanged(QString)";
+        QTest::newRow("double spin box") << "DoubleSpinBoxComponent" << 10 << "step" << QVariant(0.5) << QString();
+        QTest::newRow("switch") << "SwitchComponent" << 11 << "switchText" << QVariant("Laser on")
+                                << "statusChanged(bool) iconTextChanged(QString) switchTextChanged(QString)";
+        QTest::newRow("label") << "LabelComponent" << 13 << "xPos" << QVariant::fromValue<uchar>(12) << QString();
+        QTest::newRow("button") << "ButtonComponent" << 14 << "labelText" << QVariant("Press to teach")
+                                << "buttonTextChanged(QString) iconTextChanged(QString) labelTextChanged(QString)";
+        QTest::newRow("buttons") << "ButtonsComponent" << 15 << "columns" << QVariant::fromValue<uchar>(3)
+                                 << "selectedChanged(uchar) namesChanged(QStringList) iconTextChanged(QString)";
+        QTest::newRow("box") << "BoxComponent" << 16 << "buttonColor" << QVariant("white")
+                             << "buttonTextChanged(QString) buttonColorChanged(QString) labelTextChanged(QString) "
+                                "iconTextChanged(QString)";
+        QTest::newRow("check box") << "CheckBoxComponent" << 17 << "spinText" << QVariant("Averaging") << QString();
+        QTest::newRow("combo box") << "ComboBoxComponent" << 18 << "helpText" << QVariant("Choose the mode")
+                                   << "selectedIndexChanged(int) itemListChanged(QStringList) labelTextChanged(QString) "
+                                      "helpTextChanged(QString)";
         // Kept as shipped: the signal display reports the double spin box type, not Signal (19).
-        QTest::newRow("signal reports 10") << "SignalComponent" << 10 << "iconText" << QVariant("signal");
+        QTest::newRow("signal reports 10") << "SignalComponent" << 10 << "iconText" << QVariant("signal")
+                                           << "buttonTextChanged(QString) buttonColorChanged(QString) "
+                                              "labelTextChanged(QString) iconTextChanged(QString) "
+                                              "backgroundColorChanged() backgroundColorChanged1() "
+                                              "backgroundColorChanged2() backgroundColorChanged3() "
+                                              "dataColorChanged() stateChanged(QString)";
         // clang-format on
     }
 
-    // The type each class reports, and one property that shows the constructor
-    // arguments landed where they belong.
+    // The type each class reports, one property that shows the constructor
+    // arguments landed where they belong, and the order of its signals.
     void constructedState()
     {
         QFETCH(QString, className);
         QFETCH(QString, propertyName);
+        QFETCH(QString, signalList);
         QObject owner;
         Element *element = createElement(className, &owner);
         QVERIFY(element);
         QTEST(int(element->typeID()), "type");
         QVERIFY(element->enabled() && element->visible());
         QTEST(element->property(propertyName.toLatin1()), "value");
-    }
-
-    void signalOrder_data()
-    {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<QString>("signalList");
-        // clang-format off
-        QTest::newRow("box") << "BoxComponent"
-                             << "buttonTextChanged(QString) buttonColorChanged(QString) labelTextChanged(QString) "
-                                "iconTextChanged(QString)";
-        QTest::newRow("button") << "ButtonComponent"
-                                << "buttonTextChanged(QString) iconTextChanged(QString) labelTextChanged(QString)";
-        QTest::newRow("buttons") << "ButtonsComponent"
-                                 << "selectedChanged(uchar) namesChanged(QStringList) iconTextChanged(QString)";
-        QTest::newRow("combo box") << "ComboBoxComponent"
-                                   << "selectedIndexChanged(int) itemListChanged(QStringList) labelTextChanged(QString) "
-                                      "helpTextChanged(QString)";
-        QTest::newRow("switch") << "SwitchComponent"
-                                << "statusChanged(bool) iconTextChanged(QString) switchTextChanged(QString)";
-        QTest::newRow("signal") << "SignalComponent"
-                                << "buttonTextChanged(QString) buttonColorChanged(QString) labelTextChanged(QString) "
-                                   "iconTextChanged(QString) backgroundColorChanged() backgroundColorChanged1() "
-                                   "backgroundColorChanged2() backgroundColorChanged3() dataColorChanged() "
-                                   "stateChanged(QString)";
-        QTest::newRow("spin box") << "SpinBoxComponent"
-                                  << "spinValueChanged(int) spinFromChanged(int) spinToChanged(int) stepChanged(int) "
-                                     "iconTextChanged(QString) spinTextChanged(QString) emitButtonClicked() "
-                                     "editingFinished() vTextChanged(QString)";
-        // clang-format on
-    }
-
-    void signalOrder()
-    {
-        QFETCH(QString, className);
-        QObject owner;
-        const QMetaObject *mo = createElement(className, &owner)->metaObject();
+        const QMetaObject *mo = element->metaObject();
         QStringList signalsFound;
         for (int i = mo->methodOffset(); i < mo->methodCount(); ++i) {
             if (mo->method(i).methodType() == QMetaMethod::Signal)
                 signalsFound << QString::fromLatin1(mo->method(i).methodSignature());
         }
-        QTEST(signalsFound.join(QLatin1Char(' ')), "signalList");
+        if (!signalList.isEmpty())
+            QCOMPARE(signalsFound.join(QLatin1Char(' ')), signalList);
     }
 
     // Setters that neither restore() nor translate() reach; those two tables cover the others.
