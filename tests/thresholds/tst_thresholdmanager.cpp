@@ -23,11 +23,6 @@ private Q_SLOTS:
         QCOMPARE(manager.outputs(), 2);
         for (int c = ThresholdsData::Hue; c <= ThresholdsData::Extra3; ++c)
             QCOMPARE(manager.toHexString(2, ThresholdsData::Component(c)), std::string("8000800080008000"));
-        QCOMPARE(manager.toHexString(1, ThresholdsData::Red), std::string("8000800080008000"));
-
-        ThresholdMultiManager multi(3);
-        multi.setOutputs(1);
-        QCOMPARE(multi.toHexString(1, 2), std::string("8000800080008000"));
     }
 
     void outputNumbers_data()
