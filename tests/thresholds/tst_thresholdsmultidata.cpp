@@ -17,6 +17,36 @@ struct CountingObserver : Utils::Observer
     void update(void *) override { ++calls; }
 };
 
+template<typename Record>
+using Field = std::pair<void (Record::*)(int, const double &), double (Record::*)(int) const>;
+
+/*
+    Gives every field and the noise of entry 1 a value of its own (negative and
+    fractional ones too) and reads them back: stored unchanged, each set notified
+    once, entry 0 untouched. The constant and window flag are stored silently.
+*/
+template<typename Record>
+void checkFields(Record &data, std::initializer_list<Field<Record>> fields)
+{
+    CountingObserver observer;
+    data.attach(&observer);
+    double value = -2.5;
+    for (const Field<Record> &field : fields)
+        (data.*field.first)(1, value++);
+    data.setNoise(1, -7);
+    data.setThresholdConstant(1, 5);
+    data.setHasWindow(1, true);
+    data.detach(&observer);
+    QCOMPARE(observer.calls, int(fields.size()) + 1);
+    value = -2.5;
+    for (const Field<Record> &field : fields) {
+        QCOMPARE((data.*field.second)(0), 0.0);
+        QCOMPARE((data.*field.second)(1), value++);
+    }
+    QCOMPARE(data.noise(1), -7);
+    QVERIFY(data.hasWindow(1) && !data.hasWindow(0));
+}
+
 } // namespace
 
 class tst_ThresholdsMultiData : public QObject
@@ -24,28 +54,20 @@ class tst_ThresholdsMultiData : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void storedUnchanged()
+    void fields()
     {
+        using M = ThresholdsMultiData;
         ThresholdsMultiData data(3);
-        CountingObserver observer;
-        data.attach(&observer);
-        data.setLow(1, -2.5);
-        data.setHigh(1, 700.25);
-        data.setMiddle(1, 5.0);
-        data.setMiddle1(1, 6.0);
-        data.setNoise(1, -4);
-        QCOMPARE(observer.calls, 5);
-        QCOMPARE(data.low(1), -2.5);
-        QCOMPARE(data.high(1), 700.25);
-        QCOMPARE(data.midle(1), 5.0);
-        QCOMPARE(data.midle1(1), 6.0);
-        QCOMPARE(data.noise(1), -4);
-
-        // Constant and window flag are stored without notification.
-        data.setThresholdConstant(1, 7);
-        data.setHasWindow(1, true);
-        QCOMPARE(observer.calls, 5);
-        QVERIFY(data.hasWindow(1) && !data.hasWindow(0));
+        checkFields<M>(data, {{&M::setLow, &M::low}, {&M::setHigh, &M::high}, {&M::setMiddle, &M::midle},
+                              {&M::setMiddle1, &M::midle1}});
+        using C = ThresholdsMultiDataColor;
+        ThresholdsMultiDataColor colour(2);
+        checkFields<C>(colour, {{&C::setColorRed, &C::red},           {&C::setColorGreen, &C::green},
+                                {&C::setColorBlue, &C::blue},         {&C::setColorLight, &C::light},
+                                {&C::setColorRedHigh, &C::redHigh},   {&C::setColorRedLow, &C::redLow},
+                                {&C::setColorGreenHigh, &C::greenHigh}, {&C::setColorGreenLow, &C::greenLow},
+                                {&C::setColorBlueHigh, &C::blueHigh}, {&C::setColorBlueLow, &C::blueLow},
+                                {&C::setColorLightHigh, &C::lightHigh}, {&C::setColorLightLow, &C::lightLow}});
     }
 
     void invalidIndexes_data()
@@ -192,36 +214,6 @@ private Q_SLOTS:
         colourCopy.setHasWindow(0, true);
         QCOMPARE(colour.greenHigh(0), 4.0);
         QVERIFY(colour.hasWindow(0));
-    }
-
-    void colourFields()
-    {
-        using C = ThresholdsMultiDataColor;
-        const std::pair<void (C::*)(int, const double &), double (C::*)(int) const> fields[] = {
-            {&C::setColorRed, &C::red},           {&C::setColorGreen, &C::green},
-            {&C::setColorBlue, &C::blue},         {&C::setColorLight, &C::light},
-            {&C::setColorRedHigh, &C::redHigh},   {&C::setColorRedLow, &C::redLow},
-            {&C::setColorGreenHigh, &C::greenHigh}, {&C::setColorGreenLow, &C::greenLow},
-            {&C::setColorBlueHigh, &C::blueHigh}, {&C::setColorBlueLow, &C::blueLow},
-            {&C::setColorLightHigh, &C::lightHigh}, {&C::setColorLightLow, &C::lightLow},
-        };
-        ThresholdsMultiDataColor data(2);
-        CountingObserver observer;
-        data.attach(&observer);
-        // A distinct value per field catches a setter or getter wired to the wrong one.
-        for (std::size_t i = 0; i < std::size(fields); ++i)
-            (data.*fields[i].first)(1, 10.5 + double(i));
-        data.setNoise(1, -7);
-        QCOMPARE(observer.calls, 13);
-        for (std::size_t i = 0; i < std::size(fields); ++i) {
-            QCOMPARE((data.*fields[i].second)(0), 0.0);
-            QCOMPARE((data.*fields[i].second)(1), 10.5 + double(i));
-        }
-        QCOMPARE(data.noise(1), -7);
-        data.setThresholdConstant(1, 5);
-        data.setHasWindow(1, true);
-        QCOMPARE(observer.calls, 13);
-        QVERIFY(data.hasWindow(1) && !data.hasWindow(0));
     }
 };
 
