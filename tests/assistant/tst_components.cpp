@@ -126,8 +126,8 @@ private Q_SLOTS:
                                 "iconTextChanged(QString)";
         QTest::newRow("check box") << "CheckBoxComponent" << 17 << "spinText" << QVariant("Averaging") << QString();
         QTest::newRow("combo box") << "ComboBoxComponent" << 18 << "helpText" << QVariant("Choose the mode")
-                                   << "selectedIndexChanged(int) itemListChanged(QStringList) labelTextChanged(QString) "
-                                      "helpTextChanged(QString)";
+                                   << "selectedIndexChanged(int) itemListChanged(QStringList) "
+                                      "labelTextChanged(QString) helpTextChanged(QString)";
         // Kept as shipped: the signal display reports the double spin box type, not Signal (19).
         QTest::newRow("signal reports 10") << "SignalComponent" << 10 << "iconText" << QVariant("signal")
                                            << "buttonTextChanged(QString) buttonColorChanged(QString) "
@@ -170,7 +170,8 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("newValue");
         // clang-format off
         QTest::newRow("url address") << "UrlElement" << "url" << "urlChanged" << QVariant("https://example.invalid/b");
-        QTest::newRow("spin value unclamped") << "SpinBoxComponent" << "spinValue" << "spinValueChanged" << QVariant(1000);
+        QTest::newRow("spin value unclamped") << "SpinBoxComponent" << "spinValue" << "spinValueChanged"
+                                              << QVariant(1000);
         QTest::newRow("spin from") << "SpinBoxComponent" << "spinFrom" << "spinFromChanged" << QVariant(-3);
         QTest::newRow("spin to") << "SpinBoxComponent" << "spinTo" << "spinToChanged" << QVariant(50);
         QTest::newRow("spin step") << "SpinBoxComponent" << "step" << "stepChanged" << QVariant(5);

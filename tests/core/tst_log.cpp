@@ -47,7 +47,8 @@ private Q_SLOTS:
         QTest::newRow("error") << 0 << "x" << "14:03:07.412 | 13.11.2026 | ERROR | Sensor | x";
         QTest::newRow("warning") << 1 << "x" << "14:03:07.412 | 13.11.2026 | WARNING | Sensor | x";
         QTest::newRow("debug") << 3 << "x" << "14:03:07.412 | 13.11.2026 | DEBUG | Sensor | x";
-        QTest::newRow("unknown level leaves the field empty") << 7 << "text" << "14:03:07.412 | 13.11.2026 |  | Sensor | text";
+        QTest::newRow("unknown level leaves the field empty")
+            << 7 << "text" << "14:03:07.412 | 13.11.2026 |  | Sensor | text";
         QTest::newRow("negative level") << -1 << "text" << "14:03:07.412 | 13.11.2026 |  | Sensor | text";
         QTest::newRow("CR and LF become blanks") << 2 << "a\r\nb" << "14:03:07.412 | 13.11.2026 | INFO | Sensor | a  b";
         QTest::newRow("empty message") << 2 << "" << "14:03:07.412 | 13.11.2026 | INFO | Sensor | ";
@@ -66,7 +67,8 @@ private Q_SLOTS:
         // printf expansion and the layout together.
         QCOMPARE(LineComposer::compose(2, "Mod\nule", exampleTime, "%d mm at %s", 120, "gate"),
                  QStringLiteral("14:03:07.412 | 13.11.2026 | INFO | Mod ule | 120 mm at gate"));
-        QCOMPARE(LineComposer::compose(2, "M", exampleTime, nullptr), QStringLiteral("14:03:07.412 | 13.11.2026 | INFO | M | "));
+        QCOMPARE(LineComposer::compose(2, "M", exampleTime, nullptr),
+                 QStringLiteral("14:03:07.412 | 13.11.2026 | INFO | M | "));
 
         const int keep = Log::MessageBufferSize - 1;
         const QString prefix = QStringLiteral("14:03:07.412 | 13.11.2026 | INFO | M | ");

@@ -580,8 +580,9 @@ private Q_SLOTS:
         if (independent)
             QCOMPARE(coordinate.first().first().toPoint(), m_plot->canvas()->mapToGlobal(pos));
         if (underMouse)
-            QCOMPARE(coordinate.first().first().toPoint(), QPoint(qRound(m_plot->invTransform(QwtPlot::xBottom, pos.x())),
-                                                                  qRound(m_plot->invTransform(QwtPlot::yLeft, pos.y()))));
+            QCOMPARE(coordinate.first().first().toPoint(),
+                     QPoint(qRound(m_plot->invTransform(QwtPlot::xBottom, pos.x())),
+                            qRound(m_plot->invTransform(QwtPlot::yLeft, pos.y()))));
     }
 
     void axisMenu()

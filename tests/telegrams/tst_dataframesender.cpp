@@ -90,7 +90,8 @@ private Q_SLOTS:
         const QByteArrayList three{ "OK\\d+", "^(\\w)\\w*\\1$", "v(?=2)\\d" };
         const QByteArrayList good{ "xxOK12yy", "abca", "v1 v2" };
         QTest::newRow("empty list") << QByteArrayList() << QByteArrayList() << false << 1 << 0 << QByteArrayList() << 0;
-        QTest::newRow("all steps match") << three << good << false << 1 << 0 << QByteArrayList{ "OK12", "abca", "v2" } << 3;
+        QTest::newRow("all steps match")
+            << three << good << false << 1 << 0 << QByteArrayList{ "OK12", "abca", "v2" } << 3;
         QTest::newRow("replies from inside the send signal")
             << three << good << true << 1 << 0 << QByteArrayList{ "OK12", "abca", "v2" } << 3;
         // The unused last reply would match the failed step if it came late.
@@ -103,7 +104,8 @@ private Q_SLOTS:
         QTest::newRow("invalid pattern matches nothing")
             << QByteArrayList{ "(" } << QByteArrayList{ "(" } << true << 0 << 2 << QByteArrayList{ "unset" } << 1;
         QTest::newRow("binary reply, NUL and high bytes")
-            << QByteArrayList{ "\\$\\x00\\x01[\\x80-\\xFF]+" } << QByteArrayList{ QByteArray("junk$\0\x01\xFE\xFFtail", 13) }
+            << QByteArrayList{ "\\$\\x00\\x01[\\x80-\\xFF]+" }
+            << QByteArrayList{ QByteArray("junk$\0\x01\xFE\xFFtail", 13) }
             << true << 1 << 0 << QByteArrayList{ QByteArray("$\0\x01\xFE\xFF", 5) } << 1;
     }
 

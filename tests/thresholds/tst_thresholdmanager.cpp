@@ -53,7 +53,8 @@ private Q_SLOTS:
         QCOMPARE(manager.low(output, ThresholdsData::Red), valid ? -5.0 : -1.0);
         QCOMPARE(manager.high(output, ThresholdsData::Red), valid ? 600.0 : -1.0);
         QCOMPARE(manager.noise(output, ThresholdsData::Lightness), valid ? 3 : -1);
-        QCOMPARE(manager.toHexString(output, ThresholdsData::Red), valid ? std::string("825882587FFB7FFB") : std::string());
+        QCOMPARE(manager.toHexString(output, ThresholdsData::Red),
+                 valid ? std::string("825882587FFB7FFB") : std::string());
 
         ThresholdMultiManager multi(1);
         multi.setOutputs(2);
@@ -210,9 +211,9 @@ private Q_SLOTS:
         manager.setOutputs(1);
         QSignalSpy spy(&manager, &ThresholdMultiManagerColor::emitOutputUpdated);
         using C = ThresholdMultiManagerColor;
-        for (auto setter : {&C::setColorRed, &C::setColorGreen, &C::setColorBlue, &C::setColorLight, &C::setColorRedHigh,
-                            &C::setColorRedLow, &C::setColorGreenHigh, &C::setColorGreenLow, &C::setColorBlueHighh,
-                            &C::setColorBlueLow, &C::setColorLightHigh, &C::setColorLightLow}) {
+        for (auto setter : {&C::setColorRed, &C::setColorGreen, &C::setColorBlue, &C::setColorLight,
+                            &C::setColorRedHigh, &C::setColorRedLow, &C::setColorGreenHigh, &C::setColorGreenLow,
+                            &C::setColorBlueHighh, &C::setColorBlueLow, &C::setColorLightHigh, &C::setColorLightLow}) {
             (manager.*setter)(1, 1, 2.0);
             (manager.*setter)(2, 1, 2.0); // no such output
             (manager.*setter)(1, 2, 2.0); // no such entry

@@ -188,7 +188,8 @@ private Q_SLOTS:
         QTEST(lowerMark()->thickness(), "lowerThickness");
         QCOMPARE(upperMark()->thickness(), upperThickness);
         // The band is drawn as the marker's height: thickness in pixels plus the line.
-        const double bandPixels = plot->transform(QwtPlot::yLeft, 0.0) - plot->transform(QwtPlot::yLeft, upperThickness);
+        const double bandPixels
+            = plot->transform(QwtPlot::yLeft, 0.0) - plot->transform(QwtPlot::yLeft, upperThickness);
         QCOMPARE(upperMark()->height(), int(bandPixels) + 4);
 
         // A zoom reset gives the bands of setNoise() back only with keepNoiseWidth.
