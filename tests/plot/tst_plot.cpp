@@ -20,7 +20,6 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTimer>
 #include <QTranslator>
 
 #include <memory>
