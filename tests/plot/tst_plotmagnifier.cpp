@@ -127,7 +127,7 @@ private Q_SLOTS:
 private:
     void moveTo(int x)
     {
-        dragMove(m_plot->canvas(), QPoint(x, 50), Qt::NoButton);
+        TestSupport::mouseMove(m_plot->canvas(), QPoint(x, 50));
     }
 
     std::unique_ptr<QwtPlot> m_plot;

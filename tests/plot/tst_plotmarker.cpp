@@ -22,7 +22,7 @@ void dragMarker(QWidget *marker, const QPoint &grip, const QList<QPoint> &canvas
     QPoint local = grip;
     for (const QPoint &target : canvasPoints) {
         local = target - marker->pos();
-        dragMove(marker, local, Qt::LeftButton);
+        TestSupport::mouseMove(marker, local, Qt::LeftButton);
     }
     QTest::mouseRelease(marker, Qt::LeftButton, Qt::NoModifier, canvasPoints.last() - marker->pos());
 }

@@ -39,8 +39,8 @@ void drag(PlotMarker *mark, int targetTop)
     QTest::mousePress(mark, Qt::LeftButton, Qt::NoModifier, grip);
     const int startTop = mark->y();
     for (int i = 1; i <= 8; ++i)
-        PlotTest::dragMove(mark, QPoint(grip.x(), startTop + (targetTop - startTop) * i / 8 + grip.y() - mark->y()),
-                           Qt::LeftButton);
+        TestSupport::mouseMove(
+            mark, QPoint(grip.x(), startTop + (targetTop - startTop) * i / 8 + grip.y() - mark->y()), Qt::LeftButton);
     QTest::mouseRelease(mark, Qt::LeftButton, Qt::NoModifier, grip);
 }
 
