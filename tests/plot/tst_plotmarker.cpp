@@ -3,7 +3,6 @@
 
 #include <plot/plot.h>
 #include <plot/plotmarker.h>
-#include <plot/plotmarker_p.h>
 #include <plot/plotmarkernotime.h>
 #include <plot/plotmarkeruniversal.h>
 
@@ -23,7 +22,7 @@ void dragMarker(QWidget *marker, const QPoint &grip, const QList<QPoint> &canvas
     QPoint local = grip;
     for (const QPoint &target : canvasPoints) {
         local = target - marker->pos();
-        dragMove(marker, local, Qt::LeftButton);
+        TestSupport::mouseMove(marker, local, Qt::LeftButton);
     }
     QTest::mouseRelease(marker, Qt::LeftButton, Qt::NoModifier, canvasPoints.last() - marker->pos());
 }
@@ -40,418 +39,370 @@ class tst_PlotMarker : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void cleanup();
-
-    void construction();
-    void setValueVisibility_data();
-    void setValueVisibility();
-    void placement_data();
-    void placement();
-    void followsZoomAndResize();
-    void dragLimits_data();
-    void dragLimits();
-    void dragWithinBounds();
-    void negativeClampFlag_data();
-    void negativeClampFlag();
-    void hoverWidths_data();
-    void hoverWidths();
-    void hintText();
-    void chartItemInterface();
-    void noTimeMarker();
-    void universalMarker_data();
-    void universalMarker();
-    void badValues_data();
-    void badValues();
-    void markerOwnedByCanvas();
-
-private:
     std::unique_ptr<QWidget> m_host;
     Utils::Plot *m_plot = nullptr;
-};
 
-void tst_PlotMarker::init()
-{
-    m_plot = showPlot(m_host);
-}
-
-void tst_PlotMarker::cleanup()
-{
-    m_host.reset();
-    m_plot = nullptr;
-}
-
-void tst_PlotMarker::construction()
-{
-    m_plot->setAxisScale(QwtPlot::yLeft, 20.0, 220.0, 0.0);
-    PlotMarker marker(m_plot, PlotMarker::ModeThreshold);
-    QCOMPARE(marker.parentWidget(), m_plot->canvas());
-    QVERIFY(!marker.isVisible());
-    QCOMPARE(marker.lower(), 20.0);
-    QCOMPARE(marker.upper(), 220.0);
-    QCOMPARE(marker.pen().color(), QColor(200, 0, 0, 50));
-    QCOMPARE(marker.pen().style(), Qt::DashDotDotLine);
-    QCOMPARE(marker.pen().width(), 2);
-    marker.setMoveable(true);
-    QCOMPARE(marker.cursor().shape(), Qt::SizeVerCursor);
-    marker.setMoveable(false);
-    QCOMPARE(marker.cursor().shape(), m_plot->canvas()->cursor().shape());
-}
-
-void tst_PlotMarker::setValueVisibility_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<bool>("disabled");
-    QTest::addColumn<bool>("visible");
-    QTest::newRow("zero stays hidden") << 0.0 << false << false;
-    QTest::newRow("negative stays hidden") << -12.0 << false << false;
-    QTest::newRow("positive shows") << 40.0 << false << true;
-    QTest::newRow("positive on a disabled marker") << 40.0 << true << false;
-}
-
-void tst_PlotMarker::setValueVisibility()
-{
-    QFETCH(double, value);
-    QFETCH(bool, disabled);
-
-    m_plot->setEnableNegativeValues(true);
-    m_plot->setAxisScale(QwtPlot::yLeft, -100.0, 300.0, 0.0);
-    m_plot->replot();
-    PlotMarker marker(m_plot);
-    if (disabled)
-        marker.enablePlotMarker(false);
-    QSignalSpy changed(&marker, SIGNAL(valueChanged(const double &)));
-    marker.setValue(value);
-    QTEST(marker.isPlotMarkerVisible(), "visible");
-    QCOMPARE(marker.value(), value);
-    QCOMPARE(changed.count(), 0); // values set by code are not reported
-    // Placed in any case.
-    QCOMPARE(marker.geometry().bottom() + 1, int(m_plot->transform(QwtPlot::yLeft, value)));
-    if (disabled) {
-        marker.enablePlotMarker(true);
-        QVERIFY(marker.isVisible());
+private Q_SLOTS:
+    void init()
+    {
+        m_plot = showPlot(m_host);
     }
-}
 
-void tst_PlotMarker::placement_data()
-{
-    QTest::addColumn<int>("orientation");
-    QTest::addColumn<unsigned int>("thickness");
-    QTest::newRow("band above, thin") << 0 << 0u;
-    QTest::newRow("band above, 20 units") << 0 << 20u;
-    QTest::newRow("band below, 20 units") << 1 << 20u;
-    QTest::newRow("line only") << 2 << 20u;
-}
+    void cleanup()
+    {
+        m_host.reset();
+        m_plot = nullptr;
+    }
 
-void tst_PlotMarker::placement()
-{
-    QFETCH(int, orientation);
-    QFETCH(unsigned int, thickness);
+    void construction()
+    {
+        m_plot->setAxisScale(QwtPlot::yLeft, 20.0, 220.0, 0.0);
+        PlotMarker marker(m_plot, PlotMarker::ModeThreshold);
+        QCOMPARE(marker.parentWidget(), m_plot->canvas());
+        QVERIFY(!marker.isVisible());
+        QCOMPARE(marker.lower(), 20.0);
+        QCOMPARE(marker.upper(), 220.0);
+        QCOMPARE(marker.pen().color(), QColor(200, 0, 0, 50));
+        QCOMPARE(marker.pen().style(), Qt::DashDotDotLine);
+        QCOMPARE(marker.pen().width(), 2);
+        marker.setMoveable(true);
+        QCOMPARE(marker.cursor().shape(), Qt::SizeVerCursor);
+        marker.setMoveable(false);
+        QCOMPARE(marker.cursor().shape(), m_plot->canvas()->cursor().shape());
+    }
 
-    PlotMarker marker(m_plot);
-    marker.setNoiseOrientation(orientation);
-    marker.setThickness(thickness);
-    marker.setValue(150.0);
-    const int y = int(m_plot->transform(QwtPlot::yLeft, 150.0));
-    const int pixels = int(m_plot->transform(QwtPlot::yLeft, 0.0) - m_plot->transform(QwtPlot::yLeft, thickness));
-    QCOMPARE(marker.pixelThickness(), pixels);
-    QCOMPARE(marker.height(), pixels + 4);
-    QCOMPARE(marker.y(), orientation == 0 ? y - pixels - 4 : y);
-    QCOMPARE(marker.width(), m_plot->width());
+    void setValueVisibility_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<bool>("disabled");
+        QTest::addColumn<bool>("visible");
+        QTest::newRow("zero stays hidden") << 0.0 << false << false;
+        QTest::newRow("negative stays hidden") << -12.0 << false << false;
+        QTest::newRow("positive shows") << 40.0 << false << true;
+        QTest::newRow("positive on a disabled marker") << 40.0 << true << false;
+    }
 
-    // The saved pixel thickness comes back after a zoom reset.
-    marker.vSetTicknessHeight();
-    marker.setThickness(0);
-    QCOMPARE(marker.pixelThickness(), 0);
-    marker.vAfterZoomReset();
-    QCOMPARE(marker.pixelThickness(), pixels);
-}
+    void setValueVisibility()
+    {
+        QFETCH(double, value);
+        QFETCH(bool, disabled);
 
-void tst_PlotMarker::followsZoomAndResize()
-{
-    PlotMarker marker(m_plot);
-    marker.setThickness(10);
-    marker.setValue(100.0);
-    const int heightBefore = marker.height();
+        m_plot->setEnableNegativeValues(true);
+        m_plot->setAxisScale(QwtPlot::yLeft, -100.0, 300.0, 0.0);
+        m_plot->replot();
+        PlotMarker marker(m_plot);
+        if (disabled)
+            marker.enablePlotMarker(false);
+        QSignalSpy changed(&marker, SIGNAL(valueChanged(const double &)));
+        marker.setValue(value);
+        QTEST(marker.isPlotMarkerVisible(), "visible");
+        QCOMPARE(marker.value(), value);
+        QCOMPARE(changed.count(), 0); // values set by code are not reported
+        // Placed in any case.
+        QCOMPARE(marker.geometry().bottom() + 1, int(m_plot->transform(QwtPlot::yLeft, value)));
+        if (disabled) {
+            marker.enablePlotMarker(true);
+            QVERIFY(marker.isVisible());
+        }
+    }
 
-    // The value axis is zoomed by the wheel: the marker keeps its value, not its pixel.
-    wheel(m_plot->canvas(), QPoint(100, 100), -120);
-    QVERIFY(upper(*m_plot, QwtPlot::yLeft) < 300.0);
-    QCOMPARE(marker.value(), 100.0);
-    QCOMPARE(marker.y(), int(m_plot->transform(QwtPlot::yLeft, 100.0)) - marker.pixelThickness() - 4);
-    QVERIFY(marker.height() > heightBefore); // 10 units are more pixels now
+    void placement_data()
+    {
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<unsigned int>("thickness");
+        QTest::newRow("band above, thin") << 0 << 0u;
+        QTest::newRow("band above, 20 units") << 0 << 20u;
+        QTest::newRow("band below, 20 units") << 1 << 20u;
+        QTest::newRow("line only") << 2 << 20u;
+    }
 
-    m_host->resize(800, 600);
-    QTRY_COMPARE(marker.width(), m_plot->width());
-    QTRY_COMPARE(marker.y(), int(m_plot->transform(QwtPlot::yLeft, 100.0)) - marker.pixelThickness() - 4);
-}
+    void placement()
+    {
+        QFETCH(int, orientation);
+        QFETCH(unsigned int, thickness);
 
-void tst_PlotMarker::dragLimits_data()
-{
-    QTest::addColumn<int>("restriction");
-    QTest::addColumn<bool>("upwards");
-    QTest::newRow("above the upper bound") << -1 << true;
-    QTest::newRow("below the lower bound, default restriction") << -1 << false;
-    QTest::newRow("below the lower bound, restriction 0") << 0 << false;
-}
-
-void tst_PlotMarker::dragLimits()
-{
-    QFETCH(int, restriction);
-    QFETCH(bool, upwards);
-
-    PlotMarker marker(m_plot);
-    marker.setRange(100.0, 200.0);
-    marker.vSetRestrictionCustom(restriction);
-    marker.setMoveable(true);
-    marker.setValue(150.0);
-    QSignalSpy changed(&marker, SIGNAL(valueChanged(const double &)));
-    const int h = marker.height();
-    const int pUp = int(m_plot->transform(QwtPlot::yLeft, 200.0));
-    const int pLow = int(m_plot->transform(QwtPlot::yLeft, 100.0));
-    const QPoint grip(30, h / 2);
-    const int x = marker.x() + grip.x();
-
-    const int farAway = upwards ? 0 : m_plot->canvas()->height() - 1;
-    dragMarker(&marker, grip, {QPoint(x, (marker.y() + farAway) / 2 + h / 2), QPoint(x, farAway + h / 2)});
-
-    int expectedTop = 0;
-    if (upwards)
-        expectedTop = pUp + 1; // one pixel below the bound's pixel
-    else if (restriction <= -1)
-        expectedTop = int((pLow - 1) * 1.05 - h); // about 5 % past the bound, intended
-    else
-        expectedTop = pLow - h; // exactly at the bound
-    QCOMPARE(marker.y(), expectedTop);
-    QCOMPARE(changed.count(), 1); // at the end of the drag only
-    QCOMPARE(changed.first().first().toDouble(), marker.value());
-    QVERIFY(near(marker.value(), m_plot->invTransform(QwtPlot::yLeft, expectedTop + h)));
-    if (!upwards && restriction <= -1)
-        QVERIFY(marker.value() < 100.0);
-}
-
-void tst_PlotMarker::dragWithinBounds()
-{
-    PlotMarker marker(m_plot);
-    marker.setMoveable(true);
-    marker.setValue(150.0);
-    const int h = marker.height();
-    const QPoint grip(30, h - 1);
-    const int target = int(m_plot->transform(QwtPlot::yLeft, 120.0));
-    dragMarker(&marker, grip, {QPoint(60, target - 1)});
-    QVERIFY2(std::fabs(marker.value() - 120.0) < 1.0, qPrintable(QString::number(marker.value())));
-    QVERIFY(!marker.isDragging());
-
-    // A marker that is not moveable ignores the drag.
-    marker.setMoveable(false);
-    const double before = marker.value();
-    dragMarker(&marker, grip, {QPoint(60, 10)});
-    QCOMPARE(marker.value(), before);
-}
-
-void tst_PlotMarker::negativeClampFlag_data()
-{
-    QTest::addColumn<bool>("flag");
-    QTest::newRow("default: negative values pass") << false;
-    QTest::newRow("flag set: clamped to 0") << true;
-}
-
-void tst_PlotMarker::negativeClampFlag()
-{
-    QFETCH(bool, flag);
-    m_plot->setEnableNegativeValues(true);
-    m_plot->setAxisScale(QwtPlot::yLeft, -100.0, 100.0, 0.0);
-    m_plot->replot();
-    PlotMarker marker(m_plot);
-    marker.setMoveable(true);
-    marker.vAllowedNegativeValMarkers(flag);
-    marker.setValue(50.0);
-    const int h = marker.height();
-    dragMarker(&marker, QPoint(20, h / 2), {QPoint(40, int(m_plot->transform(QwtPlot::yLeft, -40.0)))});
-    if (flag)
-        QCOMPARE(marker.value(), 0.0);
-    else
-        QVERIFY(marker.value() < -30.0);
-}
-
-void tst_PlotMarker::hoverWidths_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("entered");
-    QTest::addColumn<int>("left");
-    // trunc(w x 1.5), then trunc(w x 0.6666666666666666) on the decimal factor.
-    QTest::newRow("2 -> 3 -> 1, thinner after the first hover") << 2 << 3 << 1;
-    QTest::newRow("3 -> 4 -> 2") << 3 << 4 << 2;
-    QTest::newRow("1 -> 1 -> 0") << 1 << 1 << 0;
-}
-
-void tst_PlotMarker::hoverWidths()
-{
-    QFETCH(int, width);
-    QFETCH(int, entered);
-    QFETCH(int, left);
-
-    PlotMarker marker(m_plot);
-    QPen pen = marker.pen();
-    pen.setWidth(width);
-    marker.vSetPen(pen);
-    marker.setValue(100.0);
-
-    // Not moveable: the width stays.
-    hover(&marker, true);
-    hover(&marker, false);
-    QCOMPARE(marker.pen().width(), width);
-
-    marker.setMoveable(true);
-    hover(&marker, true);
-    QCOMPARE(marker.pen().width(), entered);
-    hover(&marker, false);
-    QCOMPARE(marker.pen().width(), left);
-    QCOMPARE(Utils::MarkerPen::shrunkWidth(Utils::MarkerPen::enlargedWidth(width)), left);
-}
-
-void tst_PlotMarker::hintText()
-{
-    PlotMarker marker(m_plot);
-    marker.setLowerValue(50.0, QStringLiteral("Low: "));
-    marker.setUpperValue(250.0, QStringLiteral("High: "));
-    marker.setValue(50.0);
-    hover(&marker, true);
-    QCOMPARE(marker.hintText(), QStringLiteral("Low: 50.00"));
-    marker.setText(true);
-    marker.setValue(250.0);
-    QTest::mousePress(&marker, Qt::LeftButton, Qt::NoModifier, QPoint(5, 1));
-    QCOMPARE(marker.hintText(), QStringLiteral("High: 250.0"));
-    QTest::mouseRelease(&marker, Qt::LeftButton, Qt::NoModifier, QPoint(5, 1));
-    // Elsewhere the last text chosen stays.
-    marker.setValue(123.456);
-    hover(&marker, true);
-    QCOMPARE(marker.hintText(), QStringLiteral("High: 123.5"));
-}
-
-void tst_PlotMarker::chartItemInterface()
-{
-    PlotMarker a(m_plot);
-    PlotMarker b(m_plot);
-    a.setValue(123.4567);
-    b.setValue(7.0);
-    QCOMPARE(a.valueText(), std::string("123.457"));
-    QCOMPARE(a.nValue(), 123);
-    a.setValueText("5"); // a marker is never set from text
-    QCOMPARE(a.value(), 123.4567);
-    QVERIFY(a > b && b < a && a != b && !(a == b));
-    b.setValue(123.4567);
-    QVERIFY(a == b);
-}
-
-void tst_PlotMarker::noTimeMarker()
-{
-    setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
-    Utils::PlotMarkerNoTime marker(m_plot);
-    QCOMPARE(marker.pen().color(), QColor(0, 0, 255, 40));
-    QCOMPARE(marker.pen().width(), 4);
-    QCOMPARE(marker.lower(1), 0.0);
-    QCOMPARE(marker.upper(1), 1000.0);
-    QCOMPARE(marker.lower(2), -1.0); // out of range
-    marker.setRange(1, 200.0, 800.0);
-    marker.setLeftBound(0, 100.0);
-    marker.setMoveable(true);
-    marker.setValue(500.0);
-    QVERIFY(marker.isVisible());
-    QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 500.0)));
-    QCOMPARE(marker.height(), m_plot->height());
-
-    QSignalSpy changed(&marker, SIGNAL(valueChanged(const double &)));
-    const QPoint grip(1, 50);
-    dragMarker(&marker, grip, {QPoint(marker.x() + 20, 50), QPoint(m_plot->canvas()->width() - 2, 50)});
-    QCOMPARE(changed.count(), 3); // every step and the end
-    // Held 5 pixels inside the nearest right bound.
-    QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 800.0)) - 5);
-    QVERIFY(marker.value() < 800.0 && marker.value() > 780.0);
-
-    dragMarker(&marker, grip, {QPoint(0, 50)});
-    QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 200.0)) + 5);
-
-    marker.setLeftValue(marker.value(), QStringLiteral("Left: "));
-    hover(&marker, true);
-    QVERIFY(marker.hintText().startsWith(QStringLiteral("Left: ")));
-}
-
-void tst_PlotMarker::universalMarker_data()
-{
-    QTest::addColumn<QString>("plotName");
-    QTest::addColumn<bool>("vertical");
-    QTest::newRow("\"0\": value axis") << QStringLiteral("0") << false;
-    QTest::newRow("\"1\": time axis") << QStringLiteral("1") << true;
-}
-
-void tst_PlotMarker::universalMarker()
-{
-    QFETCH(QString, plotName);
-    QFETCH(bool, vertical);
-    m_plot->setObjectName(plotName);
-    setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
-    Utils::PlotMarkerUniversal marker(m_plot);
-    QCOMPARE(marker.isVertical(), vertical);
-    QCOMPARE(marker.pen().color(), QColor(200, 0, 0, 50));
-    marker.setValue(100.0);
-    if (!vertical) {
+        PlotMarker marker(m_plot);
+        marker.setNoiseOrientation(orientation);
+        marker.setThickness(thickness);
+        marker.setValue(150.0);
+        const int y = int(m_plot->transform(QwtPlot::yLeft, 150.0));
+        const int pixels = int(m_plot->transform(QwtPlot::yLeft, 0.0) - m_plot->transform(QwtPlot::yLeft, thickness));
+        QCOMPARE(marker.pixelThickness(), pixels);
+        QCOMPARE(marker.height(), pixels + 4);
+        QCOMPARE(marker.y(), orientation == 0 ? y - pixels - 4 : y);
         QCOMPARE(marker.width(), m_plot->width());
-        QCOMPARE(marker.y() + marker.height(), int(m_plot->transform(QwtPlot::yLeft, 100.0)));
-        return;
+
+        // The saved pixel thickness comes back after a zoom reset.
+        marker.vSetTicknessHeight();
+        marker.setThickness(0);
+        QCOMPARE(marker.pixelThickness(), 0);
+        marker.vAfterZoomReset();
+        QCOMPARE(marker.pixelThickness(), pixels);
     }
-    QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 100.0)));
-    marker.setRangeLeftToRight(50.0, 400.0);
-    marker.setMoveable(true);
-    dragMarker(&marker, QPoint(1, 40), {QPoint(m_plot->canvas()->width() - 1, 40)});
-    QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 400.0)));
-    QVERIFY(near(marker.value(), m_plot->invTransform(QwtPlot::xBottom, marker.x())));
 
-    marker.setNoiseOrientation(PlotMarker::OrientationBandCentered);
-    marker.setThickness(100);
-    QCOMPARE(marker.x() + marker.width() / 2, int(m_plot->transform(QwtPlot::xBottom, marker.value())));
-}
+    void followsZoomAndResize()
+    {
+        PlotMarker marker(m_plot);
+        marker.setThickness(10);
+        marker.setValue(100.0);
+        const int heightBefore = marker.height();
 
-void tst_PlotMarker::badValues_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::newRow("NaN") << std::nan("");
-    QTest::newRow("infinity") << HUGE_VAL;
-    QTest::newRow("huge") << 1e300;
-    QTest::newRow("huge negative") << -1e300;
-}
+        // The value axis is zoomed by the wheel: the marker keeps its value, not its pixel.
+        wheel(m_plot->canvas(), QPoint(100, 100), -120);
+        QVERIFY(upper(*m_plot, QwtPlot::yLeft) < 300.0);
+        QCOMPARE(marker.value(), 100.0);
+        QCOMPARE(marker.y(), int(m_plot->transform(QwtPlot::yLeft, 100.0)) - marker.pixelThickness() - 4);
+        QVERIFY(marker.height() > heightBefore); // 10 units are more pixels now
 
-void tst_PlotMarker::badValues()
-{
-    QFETCH(double, value);
-    PlotMarker marker(m_plot);
-    marker.setMoveable(true);
-    marker.setThickness(4000000000u);
-    marker.setValue(value);
-    marker.setRange(value, -value);
-    (void)marker.nValue();
-    QVERIFY(marker.height() >= 4);
-    dragMarker(&marker, QPoint(5, 2), {QPoint(20, 40)});
-    Utils::PlotMarkerNoTime vertical(m_plot);
-    vertical.setRange(0, value, value);
-    vertical.setMoveable(true);
-    vertical.setValue(value);
-    dragMarker(&vertical, QPoint(1, 5), {QPoint(40, 20)});
-    PlotMarker orphan(nullptr);
-    orphan.setValue(value);
-    orphan.setThickness(3);
-    QCOMPARE(orphan.plot(), nullptr);
-}
+        m_host->resize(800, 600);
+        QTRY_COMPARE(marker.width(), m_plot->width());
+        QTRY_COMPARE(marker.y(), int(m_plot->transform(QwtPlot::yLeft, 100.0)) - marker.pixelThickness() - 4);
+    }
 
-void tst_PlotMarker::markerOwnedByCanvas()
-{
-    // Markers normally die with the canvas, after the plot's own data.
-    QPointer<PlotMarker> marker(new PlotMarker(m_plot));
-    marker->setValue(100.0);
-    m_host.reset();
-    QVERIFY(marker.isNull());
-}
+    void dragLimits_data()
+    {
+        QTest::addColumn<int>("restriction");
+        QTest::addColumn<bool>("upwards");
+        QTest::newRow("above the upper bound") << -1 << true;
+        QTest::newRow("below the lower bound, default restriction") << -1 << false;
+        QTest::newRow("below the lower bound, restriction 0") << 0 << false;
+    }
+
+    void dragLimits()
+    {
+        QFETCH(int, restriction);
+        QFETCH(bool, upwards);
+
+        PlotMarker marker(m_plot);
+        marker.setRange(100.0, 200.0);
+        marker.vSetRestrictionCustom(restriction);
+        marker.setMoveable(true);
+        marker.setValue(150.0);
+        QSignalSpy changed(&marker, SIGNAL(valueChanged(const double &)));
+        const int h = marker.height();
+        const int pUp = int(m_plot->transform(QwtPlot::yLeft, 200.0));
+        const int pLow = int(m_plot->transform(QwtPlot::yLeft, 100.0));
+        const QPoint grip(30, h / 2);
+        const int x = marker.x() + grip.x();
+
+        const int farAway = upwards ? 0 : m_plot->canvas()->height() - 1;
+        dragMarker(&marker, grip, {QPoint(x, (marker.y() + farAway) / 2 + h / 2), QPoint(x, farAway + h / 2)});
+
+        int expectedTop = 0;
+        if (upwards)
+            expectedTop = pUp + 1; // one pixel below the bound's pixel
+        else if (restriction <= -1)
+            expectedTop = int((pLow - 1) * 1.05 - h); // about 5 % past the bound, intended
+        else
+            expectedTop = pLow - h; // exactly at the bound
+        QCOMPARE(marker.y(), expectedTop);
+        QCOMPARE(changed.count(), 1); // at the end of the drag only
+        QCOMPARE(changed.first().first().toDouble(), marker.value());
+        QVERIFY(near(marker.value(), m_plot->invTransform(QwtPlot::yLeft, expectedTop + h)));
+        if (!upwards && restriction <= -1)
+            QVERIFY(marker.value() < 100.0);
+    }
+
+    void dragTo_data()
+    {
+        QTest::addColumn<bool>("moveable");
+        QTest::addColumn<bool>("clampNegative");
+        QTest::addColumn<double>("target");
+        QTest::addColumn<double>("expected");
+        QTest::newRow("within the bounds") << true << false << 120.0 << 120.0;
+        QTest::newRow("not moveable: ignored") << false << false << 120.0 << 150.0;
+        QTest::newRow("negative values pass by default") << true << false << -40.0 << -40.0;
+        QTest::newRow("clamp flag set: stops at 0") << true << true << -40.0 << 0.0;
+    }
+
+    void dragTo()
+    {
+        QFETCH(bool, moveable);
+        QFETCH(bool, clampNegative);
+        QFETCH(double, target);
+        QFETCH(double, expected);
+        m_plot->setEnableNegativeValues(true);
+        m_plot->setAxisScale(QwtPlot::yLeft, -100.0, 200.0, 0.0);
+        m_plot->replot();
+        PlotMarker marker(m_plot);
+        marker.setMoveable(moveable);
+        marker.vAllowedNegativeValMarkers(clampNegative);
+        marker.setValue(150.0);
+        // Held at its line (the bottom row), the marker's value follows the pointer.
+        const int row = int(m_plot->transform(QwtPlot::yLeft, target));
+        dragMarker(&marker, QPoint(30, marker.height() - 1), {QPoint(60, row - 1)});
+        const double tolerance = expected == target ? 1.0 : 1e-9; // one pixel, or exact where held
+        QVERIFY2(std::fabs(marker.value() - expected) < tolerance, qPrintable(QString::number(marker.value())));
+        QVERIFY(!marker.isDragging());
+    }
+
+    void hoverWidths_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("entered");
+        QTest::addColumn<int>("left");
+        // trunc(w x 1.5), then trunc(w x 0.6666666666666666) on the decimal factor.
+        QTest::newRow("2 -> 3 -> 1, thinner after the first hover") << 2 << 3 << 1;
+        QTest::newRow("3 -> 4 -> 2") << 3 << 4 << 2;
+        QTest::newRow("1 -> 1 -> 0") << 1 << 1 << 0;
+    }
+
+    void hoverWidths()
+    {
+        QFETCH(int, width);
+        QFETCH(int, left);
+
+        PlotMarker marker(m_plot);
+        QPen pen = marker.pen();
+        pen.setWidth(width);
+        marker.vSetPen(pen);
+        marker.setValue(100.0);
+
+        // Not moveable: the width stays.
+        hover(&marker, true);
+        hover(&marker, false);
+        QCOMPARE(marker.pen().width(), width);
+
+        marker.setMoveable(true);
+        hover(&marker, true);
+        QTEST(marker.pen().width(), "entered");
+        hover(&marker, false);
+        QCOMPARE(marker.pen().width(), left);
+    }
+
+    void hintText()
+    {
+        PlotMarker marker(m_plot);
+        marker.setLowerValue(50.0, QStringLiteral("Low: "));
+        marker.setUpperValue(250.0, QStringLiteral("High: "));
+        marker.setValue(50.0);
+        hover(&marker, true);
+        QCOMPARE(marker.hintText(), QStringLiteral("Low: 50.00"));
+        marker.setText(true);
+        marker.setValue(250.0);
+        QTest::mousePress(&marker, Qt::LeftButton, Qt::NoModifier, QPoint(5, 1));
+        QCOMPARE(marker.hintText(), QStringLiteral("High: 250.0"));
+        QTest::mouseRelease(&marker, Qt::LeftButton, Qt::NoModifier, QPoint(5, 1));
+        // Elsewhere the last text chosen stays.
+        marker.setValue(123.456);
+        hover(&marker, true);
+        QCOMPARE(marker.hintText(), QStringLiteral("High: 123.5"));
+    }
+
+    void chartItemInterface()
+    {
+        PlotMarker a(m_plot);
+        PlotMarker b(m_plot);
+        a.setValue(123.4567);
+        b.setValue(7.0);
+        QCOMPARE(a.valueText(), std::string("123.457"));
+        QCOMPARE(a.nValue(), 123);
+        a.setValueText("5"); // a marker is never set from text
+        QCOMPARE(a.value(), 123.4567);
+        QVERIFY(a > b && b < a && a != b && !(a == b));
+        b.setValue(123.4567);
+        QVERIFY(a == b);
+    }
+
+    void noTimeMarker()
+    {
+        setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
+        Utils::PlotMarkerNoTime marker(m_plot);
+        QCOMPARE(marker.pen().color(), QColor(0, 0, 255, 40));
+        QCOMPARE(marker.pen().width(), 4);
+        QCOMPARE(marker.lower(1), 0.0);
+        QCOMPARE(marker.upper(1), 1000.0);
+        QCOMPARE(marker.lower(2), -1.0); // out of range
+        marker.setRange(1, 200.0, 800.0);
+        marker.setLeftBound(0, 100.0);
+        marker.setMoveable(true);
+        marker.setValue(500.0);
+        QVERIFY(marker.isVisible());
+        QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 500.0)));
+        QCOMPARE(marker.height(), m_plot->height());
+
+        QSignalSpy changed(&marker, SIGNAL(valueChanged(const double &)));
+        const QPoint grip(1, 50);
+        dragMarker(&marker, grip, {QPoint(marker.x() + 20, 50), QPoint(m_plot->canvas()->width() - 2, 50)});
+        QCOMPARE(changed.count(), 3); // every step and the end
+        // Held 5 pixels inside the nearest right bound.
+        QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 800.0)) - 5);
+        QVERIFY(marker.value() < 800.0 && marker.value() > 780.0);
+
+        dragMarker(&marker, grip, {QPoint(0, 50)});
+        QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 200.0)) + 5);
+
+        marker.setLeftValue(marker.value(), QStringLiteral("Left: "));
+        hover(&marker, true);
+        QVERIFY(marker.hintText().startsWith(QStringLiteral("Left: ")));
+    }
+
+    void universalMarker_data()
+    {
+        QTest::addColumn<QString>("plotName");
+        QTest::addColumn<bool>("vertical");
+        QTest::newRow("\"0\": value axis") << QStringLiteral("0") << false;
+        QTest::newRow("\"1\": time axis") << QStringLiteral("1") << true;
+    }
+
+    void universalMarker()
+    {
+        QFETCH(QString, plotName);
+        QFETCH(bool, vertical);
+        m_plot->setObjectName(plotName);
+        setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
+        Utils::PlotMarkerUniversal marker(m_plot);
+        QCOMPARE(marker.isVertical(), vertical);
+        QCOMPARE(marker.pen().color(), QColor(200, 0, 0, 50));
+        marker.setValue(100.0);
+        if (!vertical) {
+            QCOMPARE(marker.width(), m_plot->width());
+            QCOMPARE(marker.y() + marker.height(), int(m_plot->transform(QwtPlot::yLeft, 100.0)));
+            return;
+        }
+        QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 100.0)));
+        marker.setRangeLeftToRight(50.0, 400.0);
+        marker.setMoveable(true);
+        dragMarker(&marker, QPoint(1, 40), {QPoint(m_plot->canvas()->width() - 1, 40)});
+        QCOMPARE(marker.x(), int(m_plot->transform(QwtPlot::xBottom, 400.0)));
+        QVERIFY(near(marker.value(), m_plot->invTransform(QwtPlot::xBottom, marker.x())));
+
+        marker.setNoiseOrientation(PlotMarker::OrientationBandCentered);
+        marker.setThickness(100);
+        QCOMPARE(marker.x() + marker.width() / 2, int(m_plot->transform(QwtPlot::xBottom, marker.value())));
+    }
+
+    void badValues_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::newRow("NaN") << std::nan("");
+        QTest::newRow("infinity") << HUGE_VAL;
+        QTest::newRow("huge") << 1e300;
+        QTest::newRow("huge negative") << -1e300;
+    }
+
+    void badValues()
+    {
+        QFETCH(double, value);
+        PlotMarker marker(m_plot);
+        marker.setMoveable(true);
+        marker.setThickness(4000000000u);
+        marker.setValue(value);
+        marker.setRange(value, -value);
+        (void)marker.nValue();
+        QVERIFY(marker.height() >= 4);
+        dragMarker(&marker, QPoint(5, 2), {QPoint(20, 40)});
+        Utils::PlotMarkerNoTime vertical(m_plot);
+        vertical.setRange(0, value, value);
+        vertical.setMoveable(true);
+        vertical.setValue(value);
+        dragMarker(&vertical, QPoint(1, 5), {QPoint(40, 20)});
+        PlotMarker orphan(nullptr);
+        orphan.setValue(value);
+        orphan.setThickness(3);
+        QCOMPARE(orphan.plot(), nullptr);
+    }
+};
 
 QTEST_MAIN(tst_PlotMarker)
 #include "tst_plotmarker.moc"

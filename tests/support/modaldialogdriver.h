@@ -19,18 +19,20 @@ namespace TestSupport {
     widget when Dialog is QWidget), then calls \a action with it. The action fills
     the dialog and accepts or rejects it. Call before the code that opens the
     dialog with exec(); native dialogs must be off (Qt::AA_DontUseNativeDialogs).
+    Popup menus are driven the same way with \a find = QApplication::activePopupWidget.
 
     Returns a flag that turns true once the action ran, so a test can check that
     the dialog really appeared. Gives up silently after \a timeoutMs.
 */
 template<typename Dialog = QWidget>
-std::shared_ptr<bool> whenModal(std::function<void(Dialog *)> action, int timeoutMs = 5000)
+std::shared_ptr<bool> whenModal(std::function<void(Dialog *)> action, int timeoutMs = 5000,
+                                QWidget *(*find)() = &QApplication::activeModalWidget)
 {
     auto handled = std::make_shared<bool>(false);
     auto deadline = std::make_shared<QDeadlineTimer>(timeoutMs);
     auto poll = std::make_shared<std::function<void()>>();
     *poll = [=]() {
-        if (auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget())) {
+        if (auto *dialog = qobject_cast<Dialog *>(find())) {
             *handled = true;
             action(dialog);
             return;

@@ -57,7 +57,7 @@ void dragMark(PlotMarker *mark, int toRow)
     QTest::mousePress(mark, Qt::LeftButton, Qt::NoModifier, grip);
     for (int step = 1; step <= 4; ++step) {
         const QPoint to(grip.x(), (toRow - mark->y()) * step / 4 + grip.y());
-        PlotTest::dragMove(mark, to, Qt::LeftButton);
+        TestSupport::mouseMove(mark, to, Qt::LeftButton);
     }
     QTest::mouseRelease(mark, Qt::LeftButton, Qt::NoModifier, grip);
 }

@@ -2,13 +2,14 @@
 #ifndef UTILS_TESTS_PLOTTESTHELPERS_H
 #define UTILS_TESTS_PLOTTESTHELPERS_H
 
+#include "mouseevents.h"
+
 #include <plot/plot.h>
 
 #include <qwt_plot.h>
 #include <qwt_scale_div.h>
 
 #include <QApplication>
-#include <QMouseEvent>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -26,20 +27,12 @@ inline void wheel(QWidget *target, const QPoint &pos, int delta)
     QApplication::sendEvent(target, &event);
 }
 
-//! A mouse move with \a buttons held (QTest::mouseMove only moves the cursor in Qt 5.15).
-inline void dragMove(QWidget *target, const QPoint &pos, Qt::MouseButtons buttons)
-{
-    QMouseEvent event(QEvent::MouseMove, QPointF(pos), QPointF(target->mapToGlobal(pos)), Qt::NoButton, buttons,
-                      Qt::NoModifier);
-    QApplication::sendEvent(target, &event);
-}
-
 //! Press, a few moves and release from \a from to \a to on \a target.
 inline void drag(QWidget *target, Qt::MouseButton button, const QPoint &from, const QPoint &to)
 {
     QTest::mousePress(target, button, Qt::NoModifier, from);
     for (int step = 1; step <= 4; ++step)
-        dragMove(target, from + (to - from) * step / 4, button);
+        TestSupport::mouseMove(target, from + (to - from) * step / 4, button);
     QTest::mouseRelease(target, button, Qt::NoModifier, to);
 }
 
