@@ -27,6 +27,8 @@ BELOW = {
 LEAVES = {
     # The sample series is plain QtCore; the plot's curve factory feeds curves from it.
     ("plot", "charts/valueovertime.h"),
+    # The log viewer's filter field: a plain Qt line edit with icon buttons, nothing of the library below it.
+    ("core", "widgets/filterlineedit.h"),
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"](?:utils/)?(\w+)/([\w./]+)[>"]', re.M)
