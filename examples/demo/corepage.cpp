@@ -34,7 +34,10 @@ CorePage::CorePage(QWidget *parent)
     layout->addWidget(m_lines, 1);
     layout->addWidget(m_probes);
 
-    connect(m_log, &Log::emitLastLogged, m_lines, &QPlainTextEdit::appendPlainText);
+    // Lines end with a line feed (the log viewer needs it to keep lines of one batch apart).
+    connect(m_log, &Log::emitLastLogged, m_lines, [this](const QString &line) {
+        m_lines->appendPlainText(line.endsWith(QLatin1Char('\n')) ? line.chopped(1) : line);
+    });
     connect(m_timer, &QTimer::timeout, this, &CorePage::tick);
 }
 
@@ -78,10 +81,10 @@ void CorePage::tick()
     const QDateTime now = QDateTime::currentDateTime();
     const QString line = now.toString(QStringLiteral("hh:mm:ss.zzz")) + QStringLiteral(" | ")
         + now.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral(" | ") + level + QStringLiteral(" | Sensor | ")
-        + message;
+        + message + QLatin1Char('\n');
     Q_EMIT m_log->emitLastLogged(line);
     if (m_scratch->isOpen())
-        m_scratch->write(line.toUtf8() + '\n');
+        m_scratch->write(line.toUtf8());
 
     UtilsUInt64 now64 = 0;
     vStopTimer(&now64);

@@ -3,8 +3,13 @@
 
 #include "demopage.h"
 
+#include <core/logviewer.h>
+
 #include <QApplication>
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QPixmap>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -19,6 +24,18 @@ MainWindow::MainWindow(QWidget *parent)
     for (DemoPage *page : qAsConst(m_pages))
         m_tabs->addTab(page, page->title());
     statusBar()->showMessage(tr("Simulated laser distance sensor"));
+
+    // The log viewer: the start-up log, then every line the pages hand to the logger.
+    const QString startLog = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("utils-demo-start.log"));
+    QFile file(startLog);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(QDateTime::currentDateTime().toString(QStringLiteral("hh:mm:ss.zzz | dd.MM.yyyy")).toUtf8()
+                   + " | INFO | Demo | started\n");
+        file.close();
+    }
+    m_logViewer = new Utils::LoggingSystem::LogViewer(this, startLog);
+    addDockWidget(Qt::BottomDockWidgetArea, m_logViewer);
+    connect(m_logViewer, &Utils::LoggingSystem::LogViewer::vAboutToClose, m_logViewer, &QWidget::hide);
     resize(1100, 720);
 }
 
@@ -33,6 +50,9 @@ QStringList MainWindow::writeScreenshots(const QString &outputDir)
     QDir dir(outputDir);
     dir.mkpath(QStringLiteral("."));
     QStringList written;
+    const QString viewerPath = dir.absoluteFilePath(QStringLiteral("demo-log-viewer.png"));
+    if (m_logViewer->grab().save(viewerPath))
+        written << viewerPath;
     for (int i = 0; i < m_pages.size(); ++i) {
         m_tabs->setCurrentIndex(i);
         QApplication::processEvents();

@@ -7,6 +7,12 @@
 class DemoPage;
 class QTabWidget;
 
+namespace Utils {
+namespace LoggingSystem {
+class LogViewer;
+}
+} // namespace Utils
+
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -21,6 +27,7 @@ public:
 private:
     QTabWidget *m_tabs;
     QList<DemoPage *> m_pages;
+    Utils::LoggingSystem::LogViewer *m_logViewer = nullptr;
 };
 
 #endif // DEMO_MAINWINDOW_H
