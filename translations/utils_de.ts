@@ -13,6 +13,17 @@
     </message>
 </context>
 <context>
+    <name>Utils::ChartPlotter</name>
+    <message>
+        <source>Min %1</source>
+        <translation>Min %1</translation>
+    </message>
+    <message>
+        <source>Max %1</source>
+        <translation>Max %1</translation>
+    </message>
+</context>
+<context>
     <name>Utils::ChartTimeLine</name>
     <message>
         <source>Go to the first samples</source>
@@ -122,6 +133,124 @@
     <message>
         <source>Date + Time</source>
         <translation>Datum + Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::PlotDocument</name>
+    <message>
+        <source>Calibration Protocol</source>
+        <translation>Kalibrierprotokoll</translation>
+    </message>
+    <message>
+        <source>Laser Distance Sensor Triangulation</source>
+        <translation>Laser-Distanzsensor Triangulation</translation>
+    </message>
+    <message>
+        <source>Serial Number: </source>
+        <translation>Seriennummer: </translation>
+    </message>
+    <message>
+        <source>Order Number: </source>
+        <translation>Bestellnummer: </translation>
+    </message>
+    <message>
+        <source>Supplier: </source>
+        <translation>Lieferant: </translation>
+    </message>
+    <message>
+        <source>Measurement Conditions</source>
+        <translation>Messbedingungen</translation>
+    </message>
+    <message>
+        <source>Working Range</source>
+        <translation>Arbeitsbereich</translation>
+    </message>
+    <message>
+        <source>Linearity Deviation</source>
+        <translation>Linearitätsabweichung</translation>
+    </message>
+    <message>
+        <source>Measured Surface</source>
+        <translation>Messoberfläche</translation>
+    </message>
+    <message>
+        <source>White (90%) lambertian</source>
+        <translation>Weiß (90 %) lambertsch</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>3 (default)</source>
+        <translation>3 (Standard)</translation>
+    </message>
+    <message>
+        <source>Sensor warmed up</source>
+        <translation>Sensor aufgewärmt</translation>
+    </message>
+    <message>
+        <source>&gt;5min</source>
+        <translation>&gt;5min</translation>
+    </message>
+    <message>
+        <source>Differences of these Data can appear because of: </source>
+        <translation>Abweichungen von diesen Daten können entstehen durch: </translation>
+    </message>
+    <message>
+        <source>-  Target material and surface</source>
+        <translation>-  Material und Oberfläche des Messobjekts</translation>
+    </message>
+    <message>
+        <source>-  Sensor mounting (tilt)</source>
+        <translation>-  Montage des Sensors (Neigung)</translation>
+    </message>
+    <message>
+        <source>-  Temperature fluctuation during the measurement</source>
+        <translation>-  Temperaturschwankungen während der Messung</translation>
+    </message>
+    <message>
+        <source>-  Circulation of warm air between sensor and target</source>
+        <translation>-  Warmluftzirkulation zwischen Sensor und Messobjekt</translation>
+    </message>
+    <message>
+        <source>-  Ambient light</source>
+        <translation>-  Fremdlicht</translation>
+    </message>
+    <message>
+        <source>Document was created electronically and thus valid without signature </source>
+        <translation>Dieses Dokument wurde elektronisch erstellt und ist ohne Unterschrift gültig </translation>
+    </message>
+    <message>
+        <source>Inspector: </source>
+        <translation>Prüfer: </translation>
+    </message>
+    <message>
+        <source>Date: </source>
+        <translation>Datum: </translation>
+    </message>
+</context>
+<context>
+    <name>Utils::PlotExport</name>
+    <message>
+        <source>PDF Documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG Documents (*.svg)</source>
+        <translation>SVG-Dokumente (*.svg)</translation>
+    </message>
+    <message>
+        <source>Postscript Documents (*.ps)</source>
+        <translation>Postscript-Dokumente (*.ps)</translation>
+    </message>
+    <message>
+        <source>Images (</source>
+        <translation>Bilder (</translation>
+    </message>
+    <message>
+        <source>Export File Name</source>
+        <translation>Dateiname für den Export</translation>
     </message>
 </context>
 <context>

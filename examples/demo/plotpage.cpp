@@ -2,22 +2,51 @@
 #include "plotpage.h"
 
 #include <plot/plot.h>
+#include <plot/plotdocument.h>
 #include <plot/plotmarker.h>
 
 #include <qwt_plot_curve.h>
 
+#include <QApplication>
 #include <QDateTime>
+#include <QFile>
+#include <QFileDialog>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QRandomGenerator>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <memory>
 
 namespace {
 constexpr int SampleIntervalMs = 100;
 constexpr double WindowMs = 50000.0; // below a minute the time axis shows seconds
 constexpr int MaxSamples = int(WindowMs) / SampleIntervalMs;
+
+/*
+    A headless run has nobody to answer the save dialog, so the page answers
+    it itself: it waits for the dialog, names \a path and accepts, as a user
+    would. Gives up after two seconds.
+*/
+void answerNextSaveDialog(QObject *context, const QString &path)
+{
+    auto *poll = new QTimer(context);
+    auto attemptsLeft = std::make_shared<int>(200);
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, path, attemptsLeft]() {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (dialog) {
+            dialog->selectFile(path);
+            // Protected in QFileDialog; through QDialog it is still the file dialog's own check of the name.
+            static_cast<QDialog *>(dialog)->accept();
+        }
+        if (dialog || --*attemptsLeft == 0)
+            poll->deleteLater();
+    });
+    poll->start(10);
+}
 } // namespace
 
 PlotPage::PlotPage(QWidget *parent)
@@ -29,6 +58,7 @@ PlotPage::PlotPage(QWidget *parent)
     , m_lower(nullptr)
     , m_status(new QLabel(this))
     , m_timer(new QTimer(this))
+    , m_document(nullptr)
 {
     setObjectName(QStringLiteral("plot"));
 
@@ -70,6 +100,19 @@ PlotPage::PlotPage(QWidget *parent)
     // The zoom buttons sit in a column beside the plot; the returned widget takes the plot's place.
     m_plotWithButtons = m_plot->embedZoomToolBar();
 
+    // The demo is its own sensor vendor: its name and its letter paper (the
+    // resource ":/newPrefix/icons/Velmora_business-paper.png", letterpaper.qrc) go on the protocol.
+    m_document = new Utils::PlotDocument(m_plot, this);
+    m_document->setVendorName(QStringLiteral("Velmora Sensors"));
+    auto *exportButton = new QPushButton(tr("Export plot..."), this);
+    auto *protocolButton = new QPushButton(tr("Calibration protocol..."), this);
+    connect(exportButton, &QPushButton::clicked, this, &PlotPage::exportPlot);
+    connect(protocolButton, &QPushButton::clicked, this, &PlotPage::exportProtocol);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_status, 1);
+    buttons->addWidget(exportButton);
+    buttons->addWidget(protocolButton);
+
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(tr("Simulated laser distance over the last 50 seconds. Wheel: zoom; left drag: zoom "
                                     "to a rectangle; right drag: pan; double click: reset; right click on the time "
@@ -78,7 +121,7 @@ PlotPage::PlotPage(QWidget *parent)
                                  this));
     layout->itemAt(0)->widget()->setProperty("wordWrap", true);
     layout->addWidget(m_plotWithButtons, 1);
-    layout->addWidget(m_status);
+    layout->addLayout(buttons);
 
     connect(m_timer, &QTimer::timeout, this, &PlotPage::tick);
     showMarkerValues();
@@ -126,11 +169,42 @@ void PlotPage::showMarkerValues()
                           .arg(m_upper->value() - m_lower->value(), 0, 'f', 1));
 }
 
+void PlotPage::exportPlot()
+{
+    m_document->vExportDocument();
+}
+
+void PlotPage::exportProtocol()
+{
+    // The curve's size on the protocol's page, in document pixels (the page is 665 x 895).
+    QImage curve(560, 220, QImage::Format_ARGB32);
+    curve.fill(Qt::transparent);
+    // The simulated sensor's identity and data sheet values.
+    m_document->vExportPdfCalibration(curve, QStringLiteral("LD-30300-004217"), QStringLiteral("LDT 300-RS422"),
+                                      QStringLiteral("30 ... 300 mm"), QStringLiteral("\u00b1 0.15 % FS"));
+}
+
 void PlotPage::writeArtifacts(const QDir &outputDir, QStringList *written)
 {
     const QString path = outputDir.absoluteFilePath(QStringLiteral("plot-with-markers.png"));
     if (m_plotWithButtons->grab().save(path))
         *written << path;
+
+    // The two buttons, with the save dialogs answered by the page itself.
+    // Old files go first: the dialog would ask before overwriting them.
+    const QString exported = outputDir.absoluteFilePath(QStringLiteral("plot-export.png"));
+    QFile::remove(exported);
+    answerNextSaveDialog(this, exported);
+    exportPlot();
+    if (QFile::exists(exported))
+        *written << exported;
+
+    const QString protocol = outputDir.absoluteFilePath(QStringLiteral("calibration-protocol.pdf"));
+    QFile::remove(protocol);
+    answerNextSaveDialog(this, protocol);
+    exportProtocol();
+    if (QFile::exists(protocol))
+        *written << protocol;
 }
 
 DEMO_REGISTER_PAGE(PlotPage, 30)

@@ -12,10 +12,15 @@ class QwtPlotCurve;
 
 namespace Utils {
 class Plot;
+class PlotDocument;
 class PlotMarker;
 } // namespace Utils
 
-//! The plot foundation as a host uses it: a live distance chart with zoom buttons and two draggable markers.
+/*!
+    The plot foundation as a host uses it: a live distance chart with zoom
+    buttons and two draggable markers, exported as a file or as the sensor's
+    calibration protocol on the vendor's letter paper.
+*/
 class PlotPage : public DemoPage
 {
     Q_OBJECT
@@ -31,6 +36,8 @@ public:
 private:
     void tick();
     void showMarkerValues();
+    void exportPlot();
+    void exportProtocol();
 
     Utils::Plot *m_plot;
     QWidget *m_plotWithButtons;
@@ -39,6 +46,7 @@ private:
     Utils::PlotMarker *m_lower;
     QLabel *m_status;
     QTimer *m_timer;
+    Utils::PlotDocument *m_document;
     QVector<double> m_times;
     QVector<double> m_values;
     double m_phase = 0.0;

@@ -17,10 +17,25 @@ namespace PlotExport {
 QString fileFilters();
 
 /*!
+    Asks for a file to write with a save dialog captioned "Export File Name",
+    offering fileFilters() and proposing \a proposedName. Returns the chosen
+    path, or an empty string when the user cancelled.
+*/
+QString askFileName(QWidget *parent, const QString &proposedName);
+
+/*!
+    True when QwtPlotRenderer::renderDocument() writes a file of this name:
+    PDF, SVG or an image format known to QImageWriter, chosen by extension.
+    PostScript is not among them: Qwt writes it only when built on Qt 4.
+*/
+bool canRenderDocument(const QString &fileName);
+
+/*!
     Asks for a file (caption "Export File Name", proposed "chart.pdf") and
     renders \a plot into it, 300 x 200 mm at 85 dpi with its background; the
     format follows the extension. Returns the file written, or an empty string
-    when the user cancelled or the plot is gone.
+    when the user cancelled, the plot is gone or the extension names no format
+    the renderer writes (then a warning says so and no file is touched).
 */
 QString exportPlot(QwtPlot *plot, QWidget *parent);
 
