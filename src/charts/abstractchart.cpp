@@ -649,11 +649,14 @@ void AbstractChart::setBaselineTo(int chart)
 
 void AbstractChart::axisChanged()
 {
-    // A new time format or a new size: the labels are drawn again.
+    // A new time format or a new size: the labels are drawn again, and once
+    // the resizing has settled the plots take the time line's window again.
     for (ChartPlot &p : d->plots) {
         if (TimeScaleDraw *draw = p.plot->poTimeScaleDraw())
             draw->vRefresh();
     }
+    if (d->delayTimer)
+        d->delayTimer->start();
 }
 
 void AbstractChart::vSlotZommResetForNoiseLine()

@@ -180,6 +180,10 @@ void ChartEngine::initMembers()
             addExtra();
     }
     timeLine->poPlot()->setAutoReplot(false);
+    delayTimer = new QTimer(q);
+    delayTimer->setSingleShot(true);
+    delayTimer->setInterval(500);
+    QObject::connect(delayTimer, &QTimer::timeout, q, &AbstractChart::sendDelayValue);
     coolDown = new QTimer(q);
     coolDown->setSingleShot(true);
     coolDown->setTimerType(Qt::PreciseTimer);

@@ -188,6 +188,8 @@ public:
     QLabel *statusIcon = nullptr;
     QLabel *statusText = nullptr;
     QwtPlotDirectPainter *painter = nullptr;
+    //! Single shot, 500 ms: sendDelayValue() once the axes have settled.
+    QTimer *delayTimer = nullptr;
     // Runs for 20 ms after each redraw; samples that come meanwhile wait for its end.
     QTimer *coolDown = nullptr;
     bool pending = false;
