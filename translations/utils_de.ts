@@ -124,6 +124,13 @@
     </message>
 </context>
 <context>
+    <name>Utils::FilePathEditor</name>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+</context>
+<context>
     <name>Utils::Plot</name>
     <message>
         <source>Reset Zoom</source>
