@@ -30,9 +30,10 @@ class ValueOverTime;
     end it moves on by one page (after a longer pause, to the page that starts
     at the newest sample). Between two page moves only the new samples are
     painted, at most once every 20 ms; a redraw held back by that rule comes
-    20 ms later even when no further sample arrives. vAppendData() itself only
-    stores: it reads no settings, logs nothing and allocates nothing beyond
-    the series' own growth.
+    20 ms later even when no further sample arrives. vAppendData() reads no
+    settings, logs nothing and makes no QDateTime; between two redraws it only
+    stores the sample (no allocation beyond the series' own growth), and when
+    20 ms have passed it runs the redraw itself.
 
     The plot carries no zoom or pan tools, so a click on a panel does not move
     its view; poPlot() gives the host the plot for its axes and title.

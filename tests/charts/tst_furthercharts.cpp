@@ -309,7 +309,7 @@ void tst_FurtherCharts::swatchShowsCalibratedReading()
 void tst_FurtherCharts::rendererSwatches()
 {
     Utils::RgbRenderer renderer;
-    renderer.resize(200, 110);
+    renderer.resize(240, 110);
     renderer.show();
     QVERIFY(QTest::qWaitForWindowExposed(&renderer));
     QSignalSpy colorChanged(&renderer, &Utils::RgbRenderer::colorChanged);
