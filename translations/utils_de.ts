@@ -66,6 +66,36 @@
     </message>
 </context>
 <context>
+    <name>Utils::ColorChart</name>
+    <message>
+        <source>Black level...</source>
+        <translation>Schwarzwert...</translation>
+    </message>
+    <message>
+        <source>Calibrate the black level: the reading with the sensor covered</source>
+        <translation>Schwarzwert abgleichen: der Messwert bei abgedecktem Sensor</translation>
+    </message>
+    <message>
+        <source>White level...</source>
+        <translation>Weißwert...</translation>
+    </message>
+    <message>
+        <source>Calibrate the white level: the reading of a white target</source>
+        <translation>Weißwert abgleichen: der Messwert eines weißen Ziels</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::ConnectionStatus</name>
+    <message>
+        <source>Sensor Connected</source>
+        <translation>Sensor verbunden</translation>
+    </message>
+    <message>
+        <source>Sensor disconnected</source>
+        <translation>Sensor getrennt</translation>
+    </message>
+</context>
+<context>
     <name>Utils::DataFrameSenderUi</name>
     <message>
         <source>Sending...</source>
@@ -128,6 +158,60 @@
     <message>
         <source>...</source>
         <translation>...</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::LevelCalibrationPrompt</name>
+    <message>
+        <source>Cover the sensor so that no light reaches it.</source>
+        <translation>Decken Sie den Sensor ab, sodass kein Licht auf ihn fällt.</translation>
+    </message>
+    <message>
+        <source>Present a white target to the sensor at its working distance.</source>
+        <translation>Halten Sie dem Sensor ein weißes Ziel im Arbeitsabstand vor.</translation>
+    </message>
+    <message>
+        <source>Black level calibration</source>
+        <translation>Schwarzwertabgleich</translation>
+    </message>
+    <message>
+        <source>White level calibration</source>
+        <translation>Weißwertabgleich</translation>
+    </message>
+    <message>
+        <source>When the reading below is steady, click Confirm.</source>
+        <translation>Sobald der Messwert unten stabil ist, klicken Sie auf Bestätigen.</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Waiting for a reading from the sensor...</source>
+        <translation>Warten auf einen Messwert des Sensors...</translation>
+    </message>
+    <message>
+        <source>Reading: R %1  G %2  B %3</source>
+        <translation>Messwert: R %1  G %2  B %3</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::OutputSelector</name>
+    <message>
+        <source>Output</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Switching output %1</source>
+        <translation>Schaltausgang %1</translation>
+    </message>
+    <message>
+        <source>Choose the switching output</source>
+        <translation>Schaltausgang wählen</translation>
     </message>
 </context>
 <context>
@@ -269,6 +353,38 @@
     <message>
         <source>Export File Name</source>
         <translation>Dateiname für den Export</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::RgbRenderer</name>
+    <message>
+        <source>Current</source>
+        <translation>Aktuell</translation>
+    </message>
+    <message>
+        <source>Taught</source>
+        <translation>Eingelernt</translation>
+    </message>
+    <message>
+        <source>No reading</source>
+        <translation>Kein Messwert</translation>
+    </message>
+    <message>
+        <source>R %1  G %2  B %3</source>
+        <translation>R %1  G %2  B %3</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::SensorProgressBar</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>%1 is the progress in per cent</extracomment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 (%2 %)</source>
+        <extracomment>%1 is the operation (e.g. &quot;Teach-in&quot;), %2 the progress in per cent</extracomment>
+        <translation>%1 (%2 %)</translation>
     </message>
 </context>
 <context>

@@ -3,9 +3,13 @@
 // 900,000 samples; the export dialog turns up to 900,000 rows into CSV text.
 // This program shows how fast both are, that neither allocates per sample or
 // per cell, and how the export compares with a plain C loop writing the same
-// text with localtime_r, strftime and snprintf. One line per figure; each
+// text with localtime_r, strftime and snprintf. The panel charts
+// (SimpleTimeChart, ColorChart) are timed the same way, shown offscreen with
+// their 20 ms redraw. One line per figure; each
 // time is the best of a few runs, so that a busy machine disturbs it less.
+#include <charts/colorchart.h>
 #include <charts/exportdialog.h>
+#include <charts/simpletimechart.h>
 #include <charts/valueovertime.h>
 
 #include <QApplication>
@@ -293,6 +297,86 @@ void benchExport(double stepMs, bool withPeer)
         kHistory / plain / 1e6, plain / ours, same ? "yes" : "NO");
 }
 
+
+/*!
+    A panel chart as a host feeds it: one call per sample, shown, with the
+    redraw every 20 ms. \a append takes the sample index. Reports the cost of
+    an append that the redraw rule holds back (most of them) with its
+    allocations, and the share of the GUI thread that a fast sensor takes.
+*/
+void benchPanel(const char *name, QWidget *chart, const std::function<void(double value, double time)> &append)
+{
+    chart->resize(480, 260);
+    chart->show();
+    QApplication::processEvents();
+    double t = kStart;
+    // Reach the working size: twice the history cap, so that trimming has settled the memory.
+    for (int i = 0; i < 2 * kHistory; ++i, t += 0.01)
+        append(std::sin(i * 0.001) * 100.0 + 150.0, t);
+    QApplication::processEvents();
+
+    // Appends between two redraws: right after one, 1,000 samples come within its 20 ms.
+    const int bursts = 100;
+    const int perBurst = 1000;
+    long long heldAllocations = 0;
+    double held = 0.0;
+    for (int b = 0; b < bursts; ++b) {
+        // The held-back samples of the last burst are drawn when its cool-down ends, which starts
+        // another 20 ms; after 45 ms both are over.
+        const auto due = Clock::now() + std::chrono::milliseconds(45);
+        while (Clock::now() < due)
+            QApplication::processEvents();
+        append(150.0, t); // redraws now and starts the next 20 ms
+        t += 0.01;
+        const long long before = g_allocations.load();
+        const auto start = Clock::now();
+        for (int i = 0; i < perBurst; ++i, t += 0.01)
+            append(std::sin(i * 0.01) * 100.0 + 150.0, t);
+        held += seconds(start);
+        heldAllocations += g_allocations.load() - before;
+    }
+    const int heldCount = bursts * perBurst;
+    std::printf("%s append held back by the 20 ms rule: %.0f ns per sample, %.3f allocations per 1e3 samples\n", name,
+                held / heldCount * 1e9, heldAllocations * 1e3 / heldCount);
+
+    // A sensor at 100 kHz for 2 s of wall time: samples due are appended every millisecond, as a
+    // serial reader hands them on, and the event loop runs between (redraws included).
+    const int rate = 100000;
+    const auto begin = Clock::now();
+    double busy = 0.0;
+    long long delivered = 0;
+    long long allocations = 0;
+    while (seconds(begin) < 2.0) {
+        const long long due = (long long)(seconds(begin) * rate);
+        const long long before = g_allocations.load();
+        const auto start = Clock::now();
+        for (; delivered < due; ++delivered, t += 0.01)
+            append(std::sin(delivered * 0.0005) * 100.0 + 150.0, t);
+        QApplication::processEvents();
+        busy += seconds(start);
+        allocations += g_allocations.load() - before;
+        const auto pause = start + std::chrono::milliseconds(1);
+        while (Clock::now() < pause) { }
+    }
+    std::printf("%s at 100 kHz for 2 s: %lld samples, appends and redraws took %.1f %% of the GUI thread, %.2f "
+                "allocations per 1e3 samples (redraws included)\n",
+                name, delivered, busy / seconds(begin) * 100.0, allocations * 1e3 / double(delivered));
+    chart->hide();
+}
+
+void benchPanels()
+{
+    Utils::SimpleTimeChart simple;
+    simple.setTimeSpan(10000.0);
+    benchPanel("SimpleTimeChart", &simple, [&simple](double value, double time) { simple.vAppendData(value, true, time); });
+    Utils::ColorChart color;
+    color.setTimeSpan(10000.0);
+    color.vSetYScale(0.0, 300.0);
+    benchPanel("ColorChart", &color, [&color](double value, double time) {
+        color.vAppendData(value, value * 0.5, 300.0 - value, true, time);
+    });
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -306,6 +390,7 @@ int main(int argc, char **argv)
     benchExport(2.0, true);
     // The worst case for the per-second cache: every row in a new second.
     benchExport(1001.0, true);
+    benchPanels();
     return 0;
 }
 

@@ -5,6 +5,7 @@
 #include "charts/charttimeline.h"
 #include "charts/rangeselector.h"
 #include "charts/valueovertime.h"
+#include "charts/wallclock_p.h"
 #include "plot/curvefactory.h"
 #include "plot/customcurve.h"
 #include "plot/plot.h"
@@ -34,21 +35,12 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 
 namespace Utils {
 namespace Charts {
 
 namespace {
-
-// Wall-clock time in ms since the epoch with a fraction: samples of a fast
-// sensor within one millisecond keep their order and stay apart.
-double wallClockMs()
-{
-    using namespace std::chrono;
-    return double(duration_cast<microseconds>(system_clock::now().time_since_epoch()).count()) / 1000.0;
-}
 
 ValueMarker *makeMarker(MarkerKind kind, QwtPlot *plot)
 {

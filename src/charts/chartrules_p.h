@@ -11,6 +11,7 @@
 #include <QString>
 #include <QVector>
 
+#include <cmath>
 #include <string>
 
 namespace Utils {
@@ -111,6 +112,20 @@ inline Window followPage(const Window &w, double newest)
 {
     const Window next = nextPage(w);
     return newest < next.second ? next : Window(newest, newest + (w.second - w.first));
+}
+
+/*!
+    How the colour chart shows a channel reading: 0 at the calibrated \a black
+    level, 255 at the \a white level, linear between, rounded and clamped to
+    0..255. A reading that is not a number, or levels whose white is not above
+    black, give 0.
+*/
+inline int channelByte(double value, double black, double white)
+{
+    if (std::isnan(value) || !(white > black))
+        return 0;
+    const double scaled = (value - black) * 255.0 / (white - black);
+    return scaled <= 0.0 ? 0 : scaled >= 255.0 ? 255 : int(scaled + 0.5);
 }
 
 /*!

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef UTILS_TESTS_IMAGECHECKS_H
+#define UTILS_TESTS_IMAGECHECKS_H
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QDir>
+#include <QImage>
+#include <QTranslator>
+#include <QWidget>
+
+#include <cstdlib>
+#include <functional>
+
+namespace TestSupport {
+
+//! Sum of the absolute differences of red, green and blue (0 .. 765).
+inline int colorDistance(const QColor &a, const QColor &b)
+{
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+}
+
+/*!
+    What \a widget paints now, as an image; also saved as \a name.png in the
+    temporary folder, so that a person can look at it.
+*/
+inline QImage grabImage(QWidget *widget, const QString &name)
+{
+    const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    image.save(QDir::temp().filePath(name + QStringLiteral(".png")));
+    return image;
+}
+
+//! Pixels of \a image within \a area for which \a match holds.
+inline int countPixels(const QImage &image, const QRect &area, const std::function<bool(const QColor &)> &match)
+{
+    int count = 0;
+    const QRect inside = area.intersected(image.rect());
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x)
+            count += match(image.pixelColor(x, y)) ? 1 : 0;
+    }
+    return count;
+}
+
+//! The library's German translation, installed for the lifetime of the object.
+class GermanTranslation
+{
+public:
+    GermanTranslation()
+    {
+        m_loaded = m_translator.load(QStringLiteral(":/translations/utils_de.qm"))
+            && QCoreApplication::installTranslator(&m_translator);
+    }
+    ~GermanTranslation() { QCoreApplication::removeTranslator(&m_translator); }
+    bool isLoaded() const { return m_loaded; }
+
+private:
+    QTranslator m_translator;
+    bool m_loaded = false;
+};
+
+} // namespace TestSupport
+
+#endif // UTILS_TESTS_IMAGECHECKS_H
