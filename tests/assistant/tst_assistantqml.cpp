@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The assistant model seen through a real QML engine, as the host's view sees it.
+#include "testhelpers.h"
+
 #include <assistant/abstractmanager.h>
 #include <assistant/buttonscomponent.h>
 #include <assistant/comboboxcomponent.h>
@@ -14,7 +16,6 @@
 #include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTranslator>
 
 #include <memory>
 
@@ -205,12 +206,12 @@ private Q_SLOTS:
         QVERIFY(view);
         QCOMPARE(view->property("title").toString(), QStringLiteral("Save"));
 
-        QTranslator german;
-        QVERIFY(german.load(QStringLiteral(":/translations/utils_de.qm")));
-        QCoreApplication::installTranslator(&german);
-        manager.translate();
-        manager.translate();
-        QCoreApplication::removeTranslator(&german);
+        {
+            TestSupport::German german;
+            QVERIFY(german.isLoaded());
+            manager.translate();
+            manager.translate();
+        }
         QCOMPARE(view->property("title").toString(), QStringLiteral("Speichern"));
         QCOMPARE(view->property("question").toString(), QStringLiteral("Möchten Sie die Einstellungen speichern?"));
         QCOMPARE(view->property("titleChanges").toInt(), 1);

@@ -20,7 +20,6 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTranslator>
 
 #include <memory>
 
@@ -39,11 +38,6 @@ struct WheelCase
 Q_DECLARE_METATYPE(WheelCase)
 
 namespace {
-
-QString settingsFile()
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/settings.ini");
-}
 
 int readAxisType()
 {
@@ -100,8 +94,7 @@ private Q_SLOTS:
     void init()
     {
         // Tests write the settings file next to the test binary: start and end clean.
-        QFile::remove(settingsFile());
-        Utils::TimeScaleDraw::vReloadSettings();
+        useAxisType(-1);
         m_plot = showPlot(m_host);
     }
 
@@ -640,8 +633,7 @@ private Q_SLOTS:
         QFETCH(int, axisType);
         QFETCH(double, span);
         QFETCH(QString, format);
-        QSettings(settingsFile(), QSettings::IniFormat).setValue(QStringLiteral("plot/xPlotAxisType"), axisType);
-        Utils::TimeScaleDraw::vReloadSettings();
+        useAxisType(axisType);
         const double start = 1700000000123.9; // fractions of a millisecond are truncated
         setView(*m_plot, QwtPlot::xBottom, start, start + span);
         const QString label = m_plot->poTimeScaleDraw()->label(start).text();
@@ -674,16 +666,14 @@ private Q_SLOTS:
         QWidget *bar = m_plot->embedZoomToolBar();
         m_host->layout()->addWidget(bar); // where the plot was
         bar->show();
-        QTranslator german;
-        QVERIFY(german.load(QStringLiteral(":/translations/utils_de.qm")));
-        QCoreApplication::installTranslator(&german);
+        TestSupport::German german;
+        QVERIFY(german.isLoaded());
         // The language change retranslates the zoom tooltips but deliberately not the reset one.
         QTRY_COMPARE(m_plot->poZoomInButton()->toolTip(), QStringLiteral("Vergr\u00F6\u00DFern"));
         QCOMPARE(m_plot->poZoomOutButton()->toolTip(), QStringLiteral("Verkleinern"));
         QCOMPARE(m_plot->poResetZoomButton()->toolTip(), QStringLiteral("Reset Zoom"));
 
         const MenuSeen menu = pickFromAxisMenu(m_plot, QStringLiteral("Datum + Zeit"));
-        QCoreApplication::removeTranslator(&german);
         QCOMPARE(menu.offered, (QStringList{QStringLiteral("Zeit"), QStringLiteral("Datum + Zeit")}));
         QCOMPARE(readAxisType(), 1);
     }

@@ -9,8 +9,6 @@
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
 
-#include <QFile>
-#include <QSettings>
 #include <QtTest>
 
 #include <cmath>
@@ -21,11 +19,6 @@ namespace {
 
 const double kStart = 1700000000000.0;
 
-QString settingsFile()
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/settings.ini");
-}
-
 //! The whole plot as the screen shows it, with the grid and the markers blitted or painted directly.
 QImage drawn(Utils::Plot *plot, bool blitted)
 {
@@ -34,12 +27,6 @@ QImage drawn(Utils::Plot *plot, bool blitted)
     const QImage image = plot->grab().toImage();
     Utils::PlotCommon::setPaintCachesEnabled(true);
     return image;
-}
-
-QwtPlotGrid *gridOf(Utils::Plot *plot)
-{
-    const QwtPlotItemList grids = plot->itemList(QwtPlotItem::Rtti_PlotGrid);
-    return grids.isEmpty() ? nullptr : static_cast<QwtPlotGrid *>(grids.first());
 }
 
 enum class Change {
@@ -63,16 +50,10 @@ class tst_PlotDrawing : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
+    void cleanup() { useAxisType(-1); }
     void blittedAsPainted_data();
     void blittedAsPainted();
 };
-
-void tst_PlotDrawing::cleanup()
-{
-    QFile::remove(settingsFile());
-    Utils::TimeScaleDraw::vReloadSettings();
-}
 
 void tst_PlotDrawing::blittedAsPainted_data()
 {
@@ -98,8 +79,7 @@ void tst_PlotDrawing::blittedAsPainted()
     QFETCH(double, span);
     QFETCH(Change, change);
 
-    QSettings(settingsFile(), QSettings::IniFormat).setValue(QStringLiteral("plot/xPlotAxisType"), axisType);
-    Utils::TimeScaleDraw::vReloadSettings();
+    useAxisType(axisType);
     std::unique_ptr<QWidget> host;
     Utils::Plot *plot = showPlot(host);
     QVector<double> x, y;
@@ -150,8 +130,9 @@ void tst_PlotDrawing::blittedAsPainted()
         above->setNoiseOrientation(Utils::PlotMarker::OrientationLineOnly);
         break;
     case Change::GridPens: {
-        QwtPlotGrid *grid = gridOf(plot);
-        QVERIFY(grid);
+        const QwtPlotItemList grids = plot->itemList(QwtPlotItem::Rtti_PlotGrid);
+        QVERIFY(!grids.isEmpty());
+        auto *grid = static_cast<QwtPlotGrid *>(grids.first());
         grid->setMajorPen(QPen(QColor(0, 90, 0, 120), 2, Qt::DashLine));
         grid->setMinorPen(QPen(QColor(90, 0, 90, 200), 0, Qt::DashDotLine));
         grid->enableYMin(true);

@@ -3,15 +3,18 @@
 #define UTILS_TESTS_PLOTTESTHELPERS_H
 
 #include "mouseevents.h"
+#include "testhelpers.h"
 
 #include <plot/plot.h>
+#include <plot/timescaledraw.h>
 
 #include <qwt_plot.h>
 #include <qwt_scale_div.h>
 
 #include <QApplication>
+#include <QFile>
+#include <QSettings>
 #include <QTest>
-#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -36,18 +39,45 @@ inline void drag(QWidget *target, Qt::MouseButton button, const QPoint &from, co
     QTest::mouseRelease(target, button, Qt::NoModifier, to);
 }
 
+/*!
+    Drags \a mark (a marker on a canvas) by its point \a grip in \a steps equal
+    moves until the grip reaches the canvas point \a to, as a hand would: each
+    move is mapped at the mark's position of the moment.
+*/
+inline void dragMark(QWidget *mark, const QPoint &grip, const QPoint &to, int steps = 4)
+{
+    const QPoint from = mark->pos() + grip;
+    QTest::mousePress(mark, Qt::LeftButton, Qt::NoModifier, grip);
+    for (int step = 1; step <= steps; ++step)
+        TestSupport::mouseMove(mark, from + (to - from) * step / steps - mark->pos(), Qt::LeftButton);
+    QTest::mouseRelease(mark, Qt::LeftButton, Qt::NoModifier, to - mark->pos());
+}
+
 //! A shown plot laid out in a fresh \a host, as an application embeds it.
 inline Utils::Plot *showPlot(std::unique_ptr<QWidget> &host, bool noTools = false)
 {
     host.reset(new QWidget);
     auto *plot = new Utils::Plot(host.get(), noTools);
-    (new QVBoxLayout(host.get()))->addWidget(plot);
-    host->resize(640, 420);
-    host->show();
-    if (!QTest::qWaitForWindowExposed(host.get()))
+    if (!TestSupport::showIn(host.get(), plot, QSize(640, 420)))
         qWarning("window not exposed");
     plot->replot();
     return plot;
+}
+
+//! The settings file the plots read, beside the test binary.
+inline QString settingsFile()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/settings.ini");
+}
+
+//! Writes the time axis type (0 "Time", 1 "Date + Time") to the settings, or removes the file for -1.
+inline void useAxisType(int type)
+{
+    if (type < 0)
+        QFile::remove(settingsFile());
+    else
+        QSettings(settingsFile(), QSettings::IniFormat).setValue(QStringLiteral("plot/xPlotAxisType"), type);
+    Utils::TimeScaleDraw::vReloadSettings();
 }
 
 //! Shows [\a low, \a high] on \a axis without touching the tools' limits.

@@ -26,15 +26,10 @@ using Utils::PlotMarker;
 
 namespace {
 
-bool isSensorString(const std::string &text)
+// Sixteen hexadecimal digits; without an upper limit a word may outgrow its four.
+bool isSensorString(const std::string &text, bool unlimited = false)
 {
-    static const QRegularExpression form(QStringLiteral("^[0-9A-F]{16}$"));
-    return form.match(QString::fromStdString(text)).hasMatch();
-}
-
-bool isUnlimitedSensorString(const std::string &text)
-{
-    static const QRegularExpression form(QStringLiteral("^[0-9A-F]{16,32}$"));
+    const QRegularExpression form(unlimited ? QStringLiteral("^[0-9A-F]{16,32}$") : QStringLiteral("^[0-9A-F]{16}$"));
     return form.match(QString::fromStdString(text)).hasMatch();
 }
 
@@ -50,16 +45,10 @@ bool anyNaN(const QSignalSpy &spy)
     return false;
 }
 
-// A full drag of a horizontal mark from its line to canvas row \a toRow.
+// A full drag of a mark from its line to canvas row \a toRow.
 void dragMark(PlotMarker *mark, int toRow)
 {
-    const QPoint grip(20, 1);
-    QTest::mousePress(mark, Qt::LeftButton, Qt::NoModifier, grip);
-    for (int step = 1; step <= 4; ++step) {
-        const QPoint to(grip.x(), (toRow - mark->y()) * step / 4 + grip.y());
-        TestSupport::mouseMove(mark, to, Qt::LeftButton);
-    }
-    QTest::mouseRelease(mark, Qt::LeftButton, Qt::NoModifier, grip);
+    PlotTest::dragMark(mark, QPoint(20, 1), QPoint(mark->x() + 20, toRow + 1));
 }
 
 } // namespace
@@ -109,7 +98,7 @@ void tst_NonFinite::records()
         QVERIFY2(isSensorString(data.toHexString(component)), data.toHexString(component).c_str());
         data.setLow(component, -value, true, true);
         data.setHigh(component, value, true, true);
-        QVERIFY2(isUnlimitedSensorString(data.toHexString(component)), data.toHexString(component).c_str());
+        QVERIFY2(isSensorString(data.toHexString(component), true), data.toHexString(component).c_str());
     }
 
     Utils::ThresholdsMultiData multi(1);
@@ -117,9 +106,9 @@ void tst_NonFinite::records()
     multi.setHigh(0, -value);
     multi.setMiddle(0, value);
     multi.setMiddle1(0, value);
-    QVERIFY2(isUnlimitedSensorString(multi.toHexString(0)), multi.toHexString(0).c_str());
+    QVERIFY2(isSensorString(multi.toHexString(0), true), multi.toHexString(0).c_str());
     multi.setFromValues(0, value, -value, value, 0.0);
-    QVERIFY2(isUnlimitedSensorString(multi.toHexString(0)), multi.toHexString(0).c_str());
+    QVERIFY2(isSensorString(multi.toHexString(0), true), multi.toHexString(0).c_str());
 
     Utils::ThresholdDataManager manager;
     manager.setOutputs(1);
@@ -132,7 +121,7 @@ void tst_NonFinite::records()
     multiManager.setLow(1, 0, value);
     multiManager.setHigh(1, 0, -value);
     multiManager.setMiddle(1, 0, value);
-    QVERIFY(isUnlimitedSensorString(multiManager.toHexString(1, 0)));
+    QVERIFY(isSensorString(multiManager.toHexString(1, 0), true));
 }
 
 void tst_NonFinite::windowWidgets()
@@ -203,8 +192,11 @@ void tst_NonFinite::markers()
             QCOMPARE(marker->value(), 150.0);
         marker->setUpperBound(value);
         marker->setLowerBound(-value);
+        marker->setRange(value, -value);
         marker->setUpperValue(value, QStringLiteral("upper"));
         marker->setLowerValue(value, QStringLiteral("lower"));
+        marker->setThickness(4000000000u);
+        QVERIFY(marker->height() >= 4);
         marker->setThickness(7);
         (void)marker->nValue();
         (void)marker->valueText();
@@ -216,6 +208,10 @@ void tst_NonFinite::markers()
         dragMark(marker, 200);
         QVERIFY(!anyNaN(spy));
     }
+    PlotMarker orphan(nullptr);
+    orphan.setValue(value);
+    orphan.setThickness(3);
+    QCOMPARE(orphan.plot(), nullptr);
 }
 
 void tst_NonFinite::plotScale()

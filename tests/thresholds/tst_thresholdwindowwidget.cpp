@@ -35,13 +35,7 @@ int row(const QwtPlot &plot, double value)
 //! Drags \a mark by its top edge to canvas row \a targetTop, in steps as a hand would.
 void drag(PlotMarker *mark, int targetTop)
 {
-    const QPoint grip(30, 1);
-    QTest::mousePress(mark, Qt::LeftButton, Qt::NoModifier, grip);
-    const int startTop = mark->y();
-    for (int i = 1; i <= 8; ++i)
-        TestSupport::mouseMove(
-            mark, QPoint(grip.x(), startTop + (targetTop - startTop) * i / 8 + grip.y() - mark->y()), Qt::LeftButton);
-    QTest::mouseRelease(mark, Qt::LeftButton, Qt::NoModifier, grip);
+    PlotTest::dragMark(mark, QPoint(30, 1), QPoint(mark->x() + 30, targetTop + 1), 8);
 }
 
 // 1 when a canvas row of the grabbed image is shaded across, 0 when it is white.
@@ -73,8 +67,7 @@ private Q_SLOTS:
     {
         plot = std::make_unique<Utils::Plot>();
         plot->setAxisScale(QwtPlot::yLeft, 0.0, 100.0);
-        plot->resize(500, 400);
-        plot->show();
+        QVERIFY(TestSupport::show(plot.get(), QSize(500, 400)));
         plot->replot();
         window = std::make_unique<ThresholdWindowWidget>(plot.get(), 0);
     }
