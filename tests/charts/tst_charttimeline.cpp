@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "mouseevents.h"
+#include "plottesthelpers.h"
 
 #include <charts/charttimeline.h>
 #include <charts/charttimelineindependent.h>
@@ -18,8 +18,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
-#include <QTranslator>
-#include <QVBoxLayout>
 
 #include <cmath>
 #include <memory>
@@ -147,10 +145,7 @@ ChartTimeLine *tst_ChartTimeLine::showTimeLine(bool independent, int width, bool
     m_host.reset(new QWidget);
     ChartTimeLine *timeLine
         = independent ? new ChartTimeLineIndependent(m_host.get()) : new ChartTimeLine(m_host.get());
-    (new QVBoxLayout(m_host.get()))->addWidget(timeLine);
-    m_host->resize(width, 90);
-    m_host->show();
-    if (!QTest::qWaitForWindowExposed(m_host.get()))
+    if (!TestSupport::showIn(m_host.get(), timeLine, QSize(width, 90)))
         qWarning("window not exposed");
     if (atT)
         timeLine->vUpdateXAxisScale(T, T + 60000.0);
@@ -280,16 +275,11 @@ void tst_ChartTimeLine::drag()
     showSelector();
     m_selector->vUpdateWhileMoving(whileMoving);
     QSignalSpy range(m_selector, SIGNAL(vRange(double, double)));
-    const int moves = 4;
-    QTest::mousePress(m_canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(from, 30));
-    for (int step = 1; step <= moves; ++step)
-        mouseMove(m_canvas.get(), QPoint(from + (to - from) * step / moves, 30), Qt::LeftButton);
-    QCOMPARE(range.count(), whileMoving ? moves : 0);
-    QTest::mouseRelease(m_canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(to, 30));
+    PlotTest::drag(m_canvas.get(), Qt::LeftButton, QPoint(from, 30), QPoint(to, 30)); // four moves
 
     QCOMPARE(m_selector->nLeft(), left);
     QCOMPARE(m_selector->nRight(), right);
-    QCOMPARE(range.count(), whileMoving ? moves + 1 : 1);
+    QCOMPARE(range.count(), whileMoving ? 5 : 1);
     QCOMPARE(range.last().at(0).toDouble(), double(left));
     QCOMPARE(range.last().at(1).toDouble(), double(right));
 }
@@ -355,22 +345,17 @@ void tst_ChartTimeLine::buttons_data()
     QTest::addColumn<QString>("tip");
     QTest::addColumn<QString>("germanTip");
 
-    QTest::newRow("first") << QByteArray("buttonFirst") << QByteArray(SIGNAL(vActionFirst()))
-                           << QByteArray("vEnableFirst") << QStringLiteral("Go to the first samples")
-                           << QStringLiteral("Zu den ersten Werten");
-    QTest::newRow("previous") << QByteArray("buttonPrevious") << QByteArray(SIGNAL(vActionPrev()))
-                              << QByteArray("vEnablePrev") << QStringLiteral("Previous page")
-                              << QStringLiteral("Vorherige Seite");
-    QTest::newRow("next") << QByteArray("buttonNext") << QByteArray(SIGNAL(vActionNext())) << QByteArray("vEnableNext")
-                          << QStringLiteral("Next page") << QStringLiteral("Nächste Seite");
-    QTest::newRow("last") << QByteArray("buttonLast") << QByteArray(SIGNAL(vActionLast())) << QByteArray("vEnableLast")
-                          << QStringLiteral("Go to the newest samples") << QStringLiteral("Zu den neuesten Werten");
-    QTest::newRow("zoom out") << QByteArray("buttonZoomOut") << QByteArray(SIGNAL(vRangeChanged(double, double)))
-                              << QByteArray() << QStringLiteral("Zoom Out") << QStringLiteral("Verkleinern");
-    QTest::newRow("reset zoom") << QByteArray("buttonZoomReset") << QByteArray(SIGNAL(vScaleUpdated())) << QByteArray()
-                                << QStringLiteral("Reset Zoom") << QStringLiteral("Zoom zurücksetzen");
-    QTest::newRow("zoom in") << QByteArray("buttonZoomIn") << QByteArray(SIGNAL(vRangeChanged(double, double)))
-                             << QByteArray() << QStringLiteral("Zoom In") << QStringLiteral("Vergrößern");
+    const auto row = [](const char *name, const char *signal, const char *enabler, const char *tip, const char *de) {
+        QTest::newRow(name) << QByteArray(name) << QByteArray(signal) << QByteArray(enabler) << QString::fromUtf8(tip)
+                            << QString::fromUtf8(de);
+    };
+    row("buttonFirst", SIGNAL(vActionFirst()), "vEnableFirst", "Go to the first samples", "Zu den ersten Werten");
+    row("buttonPrevious", SIGNAL(vActionPrev()), "vEnablePrev", "Previous page", "Vorherige Seite");
+    row("buttonNext", SIGNAL(vActionNext()), "vEnableNext", "Next page", "Nächste Seite");
+    row("buttonLast", SIGNAL(vActionLast()), "vEnableLast", "Go to the newest samples", "Zu den neuesten Werten");
+    row("buttonZoomOut", SIGNAL(vRangeChanged(double, double)), "", "Zoom Out", "Verkleinern");
+    row("buttonZoomReset", SIGNAL(vScaleUpdated()), "", "Reset Zoom", "Zoom zurücksetzen");
+    row("buttonZoomIn", SIGNAL(vRangeChanged(double, double)), "", "Zoom In", "Vergrößern");
 }
 
 void tst_ChartTimeLine::buttons()
@@ -401,11 +386,11 @@ void tst_ChartTimeLine::buttons()
         QCOMPARE(spy.count(), 2);
     }
 
-    QTranslator german;
-    QVERIFY(german.load(QStringLiteral(":/translations/utils_de.qm")));
-    QCoreApplication::installTranslator(&german);
-    QTRY_COMPARE(b->toolTip(), germanTip); // the language change is posted
-    QCoreApplication::removeTranslator(&german);
+    {
+        TestSupport::German translation;
+        QVERIFY(translation.isLoaded());
+        QTRY_COMPARE(b->toolTip(), germanTip);
+    }
     QTRY_COMPARE(b->toolTip(), tip);
 }
 
