@@ -2,7 +2,7 @@
 #include <charts/exportdialog.h>
 #include <charts/valueovertime.h>
 
-#include "modaldialogdriver.h"
+#include "filedialogdriver.h"
 #include "testhelpers.h"
 
 #include <QApplication>
@@ -15,7 +15,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -107,25 +106,6 @@ void chooseSeparators(QWidget *dialog, const QString &boxes, const QString &othe
         const QRect indicator = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box);
         QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, indicator.center());
     }
-}
-
-/*!
-    Answers the next file dialog with \a path, typed into its name field, and
-    confirms the overwrite question when \a path exists. \a checks sees the
-    dialog before.
-*/
-std::shared_ptr<bool> answerFileDialog(const QString &path, std::function<void(QFileDialog *)> checks = {})
-{
-    return TestSupport::whenModal<QFileDialog>([=](QFileDialog *dialog) {
-        if (checks)
-            checks(dialog);
-        if (QFile::exists(path)) {
-            TestSupport::whenModal<QMessageBox>([](QMessageBox *box) { box->button(QMessageBox::Yes)->click(); });
-        }
-        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        name->setText(path);
-        QTest::keyClick(name, Qt::Key_Return);
-    });
 }
 
 //! What the time cell must read: QDateTime's local time is the reference.
@@ -410,7 +390,7 @@ private Q_SLOTS:
             chooseSeparators(shown, QStringLiteral("s"), QString());
             auto *buttons = child<QDialogButtonBox>(shown, "buttonBox");
             seen << QString::number(buttons->isEnabled()); // not even Cancel before a file is chosen
-            answerFileDialog(path, [&](QFileDialog *files) {
+            TestSupport::answerFileDialog(path, [&](QFileDialog *files) {
                 seen << files->windowTitle() << QString::number(files->acceptMode()) << files->nameFilters()
                      << files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text();
             });
@@ -474,7 +454,7 @@ private Q_SLOTS:
         QList<QString> headers { QStringLiteral("Value") };
         Probe dialog(&columns.list, &headers);
         if (!name.isEmpty()) {
-            auto answered = answerFileDialog(dir.filePath(name));
+            auto answered = TestSupport::answerFileDialog(dir.filePath(name));
             dialog.vSelectFileDialog();
             QVERIFY(*answered);
             QCOMPARE(dialog.fileName(), dir.filePath(name));

@@ -2,11 +2,10 @@
 #include "core/log.h"
 #include "core/logreader.h"
 #include "core/logviewer.h"
-#include "modaldialogdriver.h"
+#include "filedialogdriver.h"
 #include "widgets/filterlineedit.h"
 
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -147,13 +146,9 @@ private Q_SLOTS:
         longer.write("0123456789012345678901234567890123456789TAIL");
         longer.close();
         QString proposed;
-        const auto saved = TestSupport::whenModal<QFileDialog>([&](QFileDialog *dialog) {
-            auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-            proposed = name->text();
-            // The file exists: the dialog asks before it lets us write over it.
-            TestSupport::whenModal<QMessageBox>([](QMessageBox *box) { box->button(QMessageBox::Yes)->click(); });
-            name->setText(target);
-            QTest::keyClick(name, Qt::Key_Return);
+        // The file exists: the dialog asks before it lets us write over it, and is told yes.
+        const auto saved = TestSupport::answerFileDialog(target, [&](QFileDialog *dialog) {
+            proposed = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text();
         });
         QTest::mouseClick(viewer->findChild<QPushButton *>(QStringLiteral("SaveAs")), Qt::LeftButton);
         QVERIFY(*saved);
@@ -164,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(bytes.endsWith("TAIL")); // the longer file's tail stays
 
         // Cancelled: nothing written.
-        const auto cancelled = TestSupport::whenModal<QFileDialog>([](QFileDialog *dialog) { dialog->reject(); });
+        const auto cancelled = TestSupport::cancelFileDialog();
         QFile::remove(target);
         QTest::mouseClick(viewer->findChild<QPushButton *>(QStringLiteral("SaveAs")), Qt::LeftButton);
         QVERIFY(*cancelled);
