@@ -332,8 +332,7 @@ private Q_SLOTS:
         QVERIFY(hide && hide->isFlat());
         QCOMPARE(hide->size(), QSize(18, 18));
         QCOMPARE(dock->widget()->height(), 300);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(TestSupport::show(&window, window.sizeHint()));
         QTest::mouseClick(hide, Qt::LeftButton);
         QVERIFY(!chart.isDockVisible(1) && !dock->isVisible());
 

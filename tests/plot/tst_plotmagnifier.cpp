@@ -22,9 +22,7 @@ private Q_SLOTS:
     {
         m_plot.reset(new QwtPlot);
         m_plot->setAxisScale(QwtPlot::xBottom, 0.0, 1000.0);
-        m_plot->resize(600, 300);
-        m_plot->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_plot.get()));
+        QVERIFY(TestSupport::show(m_plot.get(), QSize(600, 300)));
         m_plot->replot();
         m_magnifier = new PlotMagnifier(static_cast<QwtPlotCanvas *>(m_plot->canvas()));
         // Only the time axis, as on a time line's overview plot.

@@ -2,6 +2,7 @@
 #include "thresholds/valuemarker.h"
 #include "thresholds/valuemarkercolor.h"
 #include "thresholds/valuemarkermultilist.h"
+#include "testhelpers.h"
 
 #include <qwt_plot.h>
 #include <qwt_plot_item.h>
@@ -109,9 +110,7 @@ private Q_SLOTS:
     void init()
     {
         plot = std::make_unique<QwtPlot>();
-        plot->resize(400, 300);
-        plot->show();
-        QVERIFY(QTest::qWaitForWindowExposed(plot.get()));
+        QVERIFY(TestSupport::show(plot.get(), QSize(400, 300)));
         plot->replot();
     }
 
@@ -207,10 +206,9 @@ private Q_SLOTS:
     {
         QFETCH(Kind, kind);
         QFETCH(Setup, setup);
-        QFETCH(QString, text);
         ValueMarker *marker = create(kind);
         setup(marker);
-        QCOMPARE(marker->labelText(), text);
+        QTEST(marker->labelText(), "text");
     }
 
     void valueTextsOfTheLastColourReading()

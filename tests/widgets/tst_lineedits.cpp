@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "modaldialogdriver.h"
+#include "testhelpers.h"
 #include "widgets/filterlineedit.h"
 #include "widgets/iconbutton.h"
 
@@ -88,9 +89,7 @@ private Q_SLOTS:
         QMenu menu;
         menu.addAction(QStringLiteral("Regular expression"));
         edit.setButtonMenu(FancyLineEdit::Left, &menu);
-        edit.resize(200, 24);
-        edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
+        QVERIFY(TestSupport::show(&edit, QSize(200, 24)));
 
         QSignalSpy side(&edit, &FancyLineEdit::buttonClicked);
         QSignalSpy left(&edit, &FancyLineEdit::leftButtonClicked);
