@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/localtime_p.h"
+#include "testhelpers.h"
 
 #include <QtTest>
-
-#include <ctime>
 
 namespace {
 
@@ -29,17 +28,6 @@ class tst_LocalTime : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { m_tz = qgetenv("TZ"); }
-
-    void cleanup()
-    {
-        if (m_tz.isNull())
-            qunsetenv("TZ");
-        else
-            qputenv("TZ", m_tz);
-        Utils::LocalTime::reloadZone();
-    }
-
     void sameTextAsQDateTime_data()
     {
         QTest::addColumn<QByteArray>("zone");
@@ -73,8 +61,7 @@ private Q_SLOTS:
         QFETCH(qint64, first);
         QFETCH(qint64, step);
 
-        qputenv("TZ", zone);
-        Utils::LocalTime::reloadZone();
+        const TestSupport::Zone inZone(zone);
         for (int i = 0; i < 8; ++i) {
             const qint64 ms = first + i * step;
             for (const char *pattern : patterns) {
@@ -94,8 +81,7 @@ private Q_SLOTS:
     void writeCutsAtRoom()
     {
         // QDateTime's text of a far-off year is longer than the pattern; write() stops at the room it was given.
-        qputenv("TZ", "UTC0");
-        Utils::LocalTime::reloadZone();
+        const TestSupport::Zone inZone("UTC0");
         const qint64 ms = Q_INT64_C(-300000000000000);
         const QByteArray full = QDateTime::fromMSecsSinceEpoch(ms).toString(QStringLiteral("dd.MM.yyyy")).toLatin1();
         QVERIFY(full.size() > 10);
@@ -103,9 +89,6 @@ private Q_SLOTS:
         const char *end = Utils::LocalTime::write(buffer, 10, ms, "dd.MM.yyyy");
         QCOMPARE(QByteArray(buffer, int(end - buffer)), full.left(10));
     }
-
-private:
-    QByteArray m_tz;
 };
 
 QTEST_GUILESS_MAIN(tst_LocalTime)
