@@ -8,7 +8,7 @@
 
 #include "qttreepropertybrowser.h"
 
-#include "modaldialogdriver.h"
+#include "filedialogdriver.h"
 #include "treebrowserdriver.h"
 
 #include <QApplication>
@@ -103,230 +103,217 @@ class tst_PropertyEditors : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
-    void managerSignals_data();
-    void managerSignals();
-    void buttonClick();
-    void typing_data();
-    void typing();
-    void fileDialog_data();
-    void fileDialog();
-    void outsideChanges_data();
-    void outsideChanges();
-    void closedEditorIsForgotten();
-};
 
-void tst_PropertyEditors::managerSignals_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<QString>("emitted");
-    QTest::addColumn<QString>("values");
+    void managerSignals_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QString>("emitted");
+        QTest::addColumn<QString>("values");
 
-    const auto row = [](const char *name, const char *change, const char *emitted, const char *values) {
-        QTest::newRow(name) << QString(change) << QString(emitted) << QString(values);
-    };
-    const char *before = "Start|/tmp/a.txt|Text (*.txt)";
-    row("new button text", "text Teach Stop", "changed Teach|value Teach Stop", "Stop|/tmp/a.txt|Text (*.txt)");
-    row("the same button text", "text Teach Start", "", before);
-    row("button text of another manager's property", "text Path /b", "", before);
-    row("click", "click Teach", "changed Teach|clicked Teach", before);
-    row("click on another manager's property", "click Path", "", before);
-    row("new path", "path Path /b", "changed Path|value Path /b", "Start|/b|Text (*.txt)");
-    row("the same path", "path Path /tmp/a.txt", "", before);
-    row("path of another manager's property", "path Teach /b", "", before);
-    row("new filter: no propertyChanged", "filter Path All (*)", "filter Path All (*)", "Start|/tmp/a.txt|All (*)");
-    row("the same filter", "filter Path Text (*.txt)", "", before);
-}
+        const auto row = [](const char *name, const char *change, const char *emitted, const char *values) {
+            QTest::newRow(name) << QString(change) << QString(emitted) << QString(values);
+        };
+        const char *before = "Start|/tmp/a.txt|Text (*.txt)";
+        row("new button text", "text Teach Stop", "changed Teach|value Teach Stop", "Stop|/tmp/a.txt|Text (*.txt)");
+        row("the same button text", "text Teach Start", "", before);
+        row("button text of another manager's property", "text Path /b", "", before);
+        row("click", "click Teach", "changed Teach|clicked Teach", before);
+        row("click on another manager's property", "click Path", "", before);
+        row("new path", "path Path /b", "changed Path|value Path /b", "Start|/b|Text (*.txt)");
+        row("the same path", "path Path /tmp/a.txt", "", before);
+        row("path of another manager's property", "path Teach /b", "", before);
+        row("new filter: no propertyChanged", "filter Path All (*)", "filter Path All (*)", "Start|/tmp/a.txt|All (*)");
+        row("the same filter", "filter Path Text (*.txt)", "", before);
+    }
 
-void tst_PropertyEditors::managerSignals()
-{
-    QFETCH(QString, change);
-    QFETCH(QString, emitted);
-    QFETCH(QString, values);
+    void managerSignals()
+    {
+        QFETCH(QString, change);
+        QFETCH(QString, emitted);
+        QFETCH(QString, values);
 
-    Panel panel;
-    panel.log.clear();
-    const QString what = change.section(' ', 0, 0);
-    QtProperty *property = change.section(' ', 1, 1) == "Teach" ? panel.teach : panel.path;
-    const QString text = change.section(' ', 2);
-    if (what == "text")
-        panel.buttons.setValue(property, text);
-    else if (what == "click")
-        panel.buttons.emitClicked(property);
-    else if (what == "path")
-        panel.paths.setValue(property, text);
-    else
-        panel.paths.setFilter(property, text);
-
-    QCOMPARE(panel.log.join('|'), emitted);
-    QCOMPARE(
-        panel.buttons.value(panel.teach) + "|" + panel.paths.value(panel.path) + "|" + panel.paths.filter(panel.path),
-        values);
-    QCOMPARE(panel.teach->valueText() + "|" + panel.path->valueText(), values.section('|', 0, 1));
-}
-
-void tst_PropertyEditors::buttonClick()
-{
-    Panel panel;
-    panel.log.clear();
-    auto *editor = panel.open<ButtonEditor>("Teach");
-    QVERIFY(editor);
-    QCOMPARE(editor->button()->text(), "Start");
-
-    QTest::mouseClick(editor->button(), Qt::LeftButton);
-    QCOMPARE(panel.log, (QStringList { "changed Teach", "clicked Teach" }));
-}
-
-void tst_PropertyEditors::typing_data()
-{
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("keys"); // '<' is the left arrow, '^' Ctrl+A
-    QTest::addColumn<QString>("edits");
-    QTest::addColumn<QString>("values");
-
-    // clang-format off
-    QTest::newRow("every keystroke") << "" << "ab" << "a|ab" << "a|ab";
-    // The editor typed in is not set again, which would move the cursor to the end.
-    QTest::newRow("in the middle") << "" << "ac<bd" << "a|ac|abc|abdc" << "a|ac|abc|abdc";
-    QTest::newRow("a selection typed over with the same text") << "x" << "^x" << "x" << "";
-    // clang-format on
-}
-
-void tst_PropertyEditors::typing()
-{
-    QFETCH(QString, start);
-    QFETCH(QString, keys);
-    QFETCH(QString, edits);
-    QFETCH(QString, values);
-
-    Panel panel(start);
-    auto *editor = panel.open<FilePathEditor>("Path");
-    QVERIFY(editor);
-    panel.log.clear();
-
-    auto *lineEdit = editor->findChild<QLineEdit *>();
-    for (const QChar key : keys) {
-        if (key == '<')
-            QTest::keyClick(lineEdit, Qt::Key_Left);
-        else if (key == '^')
-            QTest::keyClick(lineEdit, Qt::Key_A, Qt::ControlModifier);
+        Panel panel;
+        panel.log.clear();
+        const QString what = change.section(' ', 0, 0);
+        QtProperty *property = change.section(' ', 1, 1) == "Teach" ? panel.teach : panel.path;
+        const QString text = change.section(' ', 2);
+        if (what == "text")
+            panel.buttons.setValue(property, text);
+        else if (what == "click")
+            panel.buttons.emitClicked(property);
+        else if (what == "path")
+            panel.paths.setValue(property, text);
         else
-            QTest::keyClicks(lineEdit, key);
+            panel.paths.setFilter(property, text);
+
+        QCOMPARE(panel.log.join('|'), emitted);
+        QCOMPARE(panel.buttons.value(panel.teach) + "|" + panel.paths.value(panel.path) + "|"
+                + panel.paths.filter(panel.path),
+            values);
+        QCOMPARE(panel.teach->valueText() + "|" + panel.path->valueText(), values.section('|', 0, 1));
     }
-    QCOMPARE(panel.texts("edit"), edits);
-    QCOMPARE(panel.texts("value"), values);
-    QCOMPARE(panel.paths.value(panel.path), edits.section('|', -1));
-    QCOMPARE(editor->filePath(), edits.section('|', -1));
-}
 
-void tst_PropertyEditors::fileDialog_data()
-{
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<QString>("emitted");
+    void buttonClick()
+    {
+        Panel panel;
+        panel.log.clear();
+        auto *editor = panel.open<ButtonEditor>("Teach");
+        QVERIFY(editor);
+        QCOMPARE(editor->button()->text(), "Start");
 
-    // clang-format off
-    QTest::newRow("cancelled") << "" << "";
-    QTest::newRow("another file") << "b.txt" << "changed Path|value Path b.txt|edit b.txt";
-    // The editor reports the file chosen; the manager sees no change.
-    QTest::newRow("the file already set") << "a.txt" << "edit a.txt";
-    // clang-format on
-}
-
-void tst_PropertyEditors::fileDialog()
-{
-    QFETCH(QString, answer);
-    QFETCH(QString, emitted);
-
-    QTemporaryDir dir;
-    for (const char *name : { "a.txt", "b.txt" }) {
-        QFile file(dir.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        QTest::mouseClick(editor->button(), Qt::LeftButton);
+        QCOMPARE(panel.log, (QStringList { "changed Teach", "clicked Teach" }));
     }
-    Panel panel(dir.filePath("a.txt"));
-    auto *editor = panel.open<FilePathEditor>("Path");
-    QVERIFY(editor);
-    panel.log.clear();
 
-    QString seen;
-    const auto shown = TestSupport::whenModal<QFileDialog>([&](QFileDialog *dialog) {
-        seen = dialog->nameFilters().join('|') + (dialog->parentWidget() ? " with parent" : "");
-        if (answer.isEmpty())
-            return dialog->reject();
-        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        name->setText(dir.filePath(answer));
-        QTest::keyClick(name, Qt::Key_Return);
-    });
-    auto *button = editor->findChild<QPushButton *>();
-    QCOMPARE(button->text(), "...");
-    QTest::mouseClick(button, Qt::LeftButton);
+    void typing_data()
+    {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("keys"); // '<' is the left arrow, '^' Ctrl+A
+        QTest::addColumn<QString>("edits");
+        QTest::addColumn<QString>("values");
 
-    QVERIFY(*shown);
-    QCOMPARE(seen, "Text (*.txt)");
-    QCOMPARE(panel.log.join('|').remove(dir.path() + "/"), emitted);
-    const QString path = dir.filePath(answer == "b.txt" ? "b.txt" : "a.txt");
-    QCOMPARE(editor->filePath(), path);
-    QCOMPARE(panel.paths.value(panel.path), path);
-}
+        // clang-format off
+        QTest::newRow("every keystroke") << "" << "ab" << "a|ab" << "a|ab";
+        // The editor typed in is not set again, which would move the cursor to the end.
+        QTest::newRow("in the middle") << "" << "ac<bd" << "a|ac|abc|abdc" << "a|ac|abc|abdc";
+        QTest::newRow("a selection typed over with the same text") << "x" << "^x" << "x" << "";
+        // clang-format on
+    }
 
-void tst_PropertyEditors::outsideChanges_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<QString>("shown");
+    void typing()
+    {
+        QFETCH(QString, start);
+        QFETCH(QString, keys);
+        QFETCH(QString, edits);
+        QFETCH(QString, values);
 
-    // clang-format off
-    QTest::newRow("path") << "path" << "/b|Text (*.txt)";
-    QTest::newRow("filter") << "filter" << "/tmp/a.txt|All (*)";
-    QTest::newRow("typed in another browser") << "typed" << "/tmp/a.txtz|Text (*.txt)";
-    // Only path editors follow: a button editor keeps the text it opened with.
-    QTest::newRow("button text") << "text" << "Start";
-    // clang-format on
-}
+        Panel panel(start);
+        auto *editor = panel.open<FilePathEditor>("Path");
+        QVERIFY(editor);
+        panel.log.clear();
 
-void tst_PropertyEditors::outsideChanges()
-{
-    QFETCH(QString, change);
-    QFETCH(QString, shown);
+        auto *lineEdit = editor->findChild<QLineEdit *>();
+        for (const QChar key : keys) {
+            if (key == '<')
+                QTest::keyClick(lineEdit, Qt::Key_Left);
+            else if (key == '^')
+                QTest::keyClick(lineEdit, Qt::Key_A, Qt::ControlModifier);
+            else
+                QTest::keyClicks(lineEdit, key);
+        }
+        QCOMPARE(panel.texts("edit"), edits);
+        QCOMPARE(panel.texts("value"), values);
+        QCOMPARE(panel.paths.value(panel.path), edits.section('|', -1));
+        QCOMPARE(editor->filePath(), edits.section('|', -1));
+    }
 
-    Panel panel;
-    QtTreePropertyBrowser other;
-    other.setFactoryForManager(&panel.paths, &panel.pathFactory);
-    other.addProperty(panel.path);
-    other.show();
-    QWidget *editor = panel.open<QWidget>(change == "text" ? "Teach" : "Path");
-    QVERIFY(editor);
+    void fileDialog_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("emitted");
 
-    if (change == "path") {
+        // clang-format off
+        QTest::newRow("cancelled") << "" << "";
+        QTest::newRow("another file") << "b.txt" << "changed Path|value Path b.txt|edit b.txt";
+        // The editor reports the file chosen; the manager sees no change.
+        QTest::newRow("the file already set") << "a.txt" << "edit a.txt";
+        // clang-format on
+    }
+
+    void fileDialog()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QString, emitted);
+
+        QTemporaryDir dir;
+        for (const char *name : { "a.txt", "b.txt" }) {
+            QFile file(dir.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        Panel panel(dir.filePath("a.txt"));
+        auto *editor = panel.open<FilePathEditor>("Path");
+        QVERIFY(editor);
+        panel.log.clear();
+
+        QString seen;
+        const auto look = [&](QFileDialog *dialog) {
+            seen = dialog->nameFilters().join('|') + (dialog->parentWidget() ? " with parent" : "");
+        };
+        const auto shown = answer.isEmpty() ? TestSupport::cancelFileDialog(look)
+                                            : TestSupport::answerFileDialog(dir.filePath(answer), look);
+        auto *button = editor->findChild<QPushButton *>();
+        QCOMPARE(button->text(), "...");
+        QTest::mouseClick(button, Qt::LeftButton);
+
+        QVERIFY(*shown);
+        QCOMPARE(seen, "Text (*.txt)");
+        QCOMPARE(panel.log.join('|').remove(dir.path() + "/"), emitted);
+        const QString path = dir.filePath(answer == "b.txt" ? "b.txt" : "a.txt");
+        QCOMPARE(editor->filePath(), path);
+        QCOMPARE(panel.paths.value(panel.path), path);
+    }
+
+    void outsideChanges_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QString>("shown");
+
+        // clang-format off
+        QTest::newRow("path") << "path" << "/b|Text (*.txt)";
+        QTest::newRow("filter") << "filter" << "/tmp/a.txt|All (*)";
+        QTest::newRow("typed in another browser") << "typed" << "/tmp/a.txtz|Text (*.txt)";
+        // Only path editors follow: a button editor keeps the text it opened with.
+        QTest::newRow("button text") << "text" << "Start";
+        // clang-format on
+    }
+
+    void outsideChanges()
+    {
+        QFETCH(QString, change);
+        QFETCH(QString, shown);
+
+        Panel panel;
+        QtTreePropertyBrowser other;
+        other.setFactoryForManager(&panel.paths, &panel.pathFactory);
+        other.addProperty(panel.path);
+        other.show();
+        QWidget *editor = panel.open<QWidget>(change == "text" ? "Teach" : "Path");
+        QVERIFY(editor);
+
+        if (change == "path") {
+            panel.paths.setValue(panel.path, "/b");
+        } else if (change == "filter") {
+            panel.paths.setFilter(panel.path, "All (*)");
+        } else if (change == "typed") {
+            TreeBrowserDriver otherDriver(&other);
+            otherDriver.click("Path");
+            QTest::keyClicks(otherDriver.openEditor<FilePathEditor>()->findChild<QLineEdit *>(), "z");
+        } else {
+            panel.buttons.setValue(panel.teach, "Stop");
+            QCOMPARE(panel.driver.row("Teach")->text(1), "Stop");
+        }
+
+        if (auto *pathEditor = qobject_cast<FilePathEditor *>(editor))
+            QCOMPARE(pathEditor->filePath() + "|" + pathEditor->filter(), shown);
+        else
+            QCOMPARE(qobject_cast<ButtonEditor *>(editor)->text(), shown);
+    }
+
+    void closedEditorIsForgotten()
+    {
+        Panel panel;
+        QPointer<FilePathEditor> editor = panel.open<FilePathEditor>("Path");
+        QVERIFY(editor);
+        panel.driver.click("Teach");
+        QTRY_VERIFY(!editor);
+
+        // The factory must not reach the deleted editor.
         panel.paths.setValue(panel.path, "/b");
-    } else if (change == "filter") {
         panel.paths.setFilter(panel.path, "All (*)");
-    } else if (change == "typed") {
-        TreeBrowserDriver otherDriver(&other);
-        otherDriver.click("Path");
-        QTest::keyClicks(otherDriver.openEditor<FilePathEditor>()->findChild<QLineEdit *>(), "z");
-    } else {
-        panel.buttons.setValue(panel.teach, "Stop");
-        QCOMPARE(panel.driver.row("Teach")->text(1), "Stop");
+        editor = panel.open<FilePathEditor>("Path");
+        QCOMPARE(editor->filePath() + "|" + editor->filter(), "/b|All (*)");
     }
-
-    if (auto *pathEditor = qobject_cast<FilePathEditor *>(editor))
-        QCOMPARE(pathEditor->filePath() + "|" + pathEditor->filter(), shown);
-    else
-        QCOMPARE(qobject_cast<ButtonEditor *>(editor)->text(), shown);
-}
-
-void tst_PropertyEditors::closedEditorIsForgotten()
-{
-    Panel panel;
-    QPointer<FilePathEditor> editor = panel.open<FilePathEditor>("Path");
-    QVERIFY(editor);
-    panel.driver.click("Teach");
-    QTRY_VERIFY(!editor);
-
-    // The factory must not reach the deleted editor.
-    panel.paths.setValue(panel.path, "/b");
-    panel.paths.setFilter(panel.path, "All (*)");
-    editor = panel.open<FilePathEditor>("Path");
-    QCOMPARE(editor->filePath() + "|" + editor->filter(), "/b|All (*)");
-}
+};
 
 QTEST_MAIN(tst_PropertyEditors)
 
