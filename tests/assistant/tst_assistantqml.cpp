@@ -207,7 +207,7 @@ private Q_SLOTS:
         QCOMPARE(view->property("title").toString(), QStringLiteral("Save"));
 
         {
-            TestSupport::German german;
+            TestSupport::GermanTranslation german;
             QVERIFY(german.isLoaded());
             manager.translate();
             manager.translate();

@@ -343,7 +343,7 @@ private Q_SLOTS:
             QCOMPARE(spy.count(), 2);
         }
         {
-            TestSupport::German translation;
+            TestSupport::GermanTranslation translation;
             QVERIFY(translation.isLoaded());
             QTRY_COMPARE(b->toolTip(), germanTip);
         }

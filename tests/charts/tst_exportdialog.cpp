@@ -201,7 +201,7 @@ private Q_SLOTS:
         QVERIFY(widget);
         QCOMPARE(widget->property(property).toString(), english);
         {
-            TestSupport::German translation;
+            TestSupport::GermanTranslation translation;
             QVERIFY(translation.isLoaded());
             QTRY_COMPARE(widget->property(property).toString(), german);
         }

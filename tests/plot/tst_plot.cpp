@@ -709,7 +709,7 @@ private Q_SLOTS:
         QWidget *bar = m_plot->embedZoomToolBar();
         m_host->layout()->addWidget(bar); // where the plot was
         bar->show();
-        TestSupport::German german;
+        TestSupport::GermanTranslation german;
         QVERIFY(german.isLoaded());
         // The language change retranslates the zoom tooltips but deliberately not the reset one.
         QTRY_COMPARE(m_plot->poZoomInButton()->toolTip(), QStringLiteral("Vergr\u00F6\u00DFern"));

@@ -2,11 +2,11 @@
 #ifndef UTILS_TESTS_IMAGECHECKS_H
 #define UTILS_TESTS_IMAGECHECKS_H
 
+#include "testhelpers.h"
+
 #include <QColor>
-#include <QCoreApplication>
 #include <QDir>
 #include <QImage>
-#include <QTranslator>
 #include <QWidget>
 
 #include <cstdlib>
@@ -42,23 +42,6 @@ inline int countPixels(const QImage &image, const QRect &area, const std::functi
     }
     return count;
 }
-
-//! The library's German translation, installed for the lifetime of the object.
-class GermanTranslation
-{
-public:
-    GermanTranslation()
-    {
-        m_loaded = m_translator.load(QStringLiteral(":/translations/utils_de.qm"))
-            && QCoreApplication::installTranslator(&m_translator);
-    }
-    ~GermanTranslation() { QCoreApplication::removeTranslator(&m_translator); }
-    bool isLoaded() const { return m_loaded; }
-
-private:
-    QTranslator m_translator;
-    bool m_loaded = false;
-};
 
 } // namespace TestSupport
 

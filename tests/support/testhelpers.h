@@ -32,19 +32,19 @@ inline bool showIn(QWidget *host, QWidget *widget, const QSize &size)
     The library's German translation, installed for the object's lifetime.
     Widgets hear of the change by a posted event: compare with QTRY_COMPARE.
 */
-class German
+class GermanTranslation
 {
 public:
-    German()
+    GermanTranslation()
     {
         m_loaded = m_translator.load(QStringLiteral(":/translations/utils_de.qm"))
             && QCoreApplication::installTranslator(&m_translator);
     }
-    ~German() { QCoreApplication::removeTranslator(&m_translator); }
+    ~GermanTranslation() { QCoreApplication::removeTranslator(&m_translator); }
     bool isLoaded() const { return m_loaded; }
 
 private:
-    Q_DISABLE_COPY(German)
+    Q_DISABLE_COPY(GermanTranslation)
     QTranslator m_translator;
     bool m_loaded = false;
 };
