@@ -66,6 +66,48 @@
     </message>
 </context>
 <context>
+    <name>Utils::Charts::AbstractChart</name>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Reset Zoom</source>
+        <translation>Zoom zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::Charts::GenericChartColor</name>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Signal %1</source>
+        <translation>Signal %1</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+</context>
+<context>
     <name>Utils::ColorChart</name>
     <message>
         <source>Black level...</source>
@@ -161,6 +203,17 @@
     </message>
 </context>
 <context>
+    <name>Utils::FilterLineEdit</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Text löschen</translation>
+    </message>
+</context>
+<context>
     <name>Utils::LevelCalibrationPrompt</name>
     <message>
         <source>Cover the sensor so that no light reaches it.</source>
@@ -197,6 +250,41 @@
     <message>
         <source>Reading: R %1  G %2  B %3</source>
         <translation>Messwert: R %1  G %2  B %3</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::LoggingSystem::LogViewer</name>
+    <message>
+        <source>Log View </source>
+        <translation>Protokollansicht </translation>
+    </message>
+    <message>
+        <source>Filter log entries</source>
+        <translation>Protokolleinträge filtern</translation>
+    </message>
+    <message>
+        <source>Save Log As...</source>
+        <translation>Protokoll speichern unter...</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Log viewer</source>
+        <translation>Protokollansicht</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Speichern unter...</translation>
+    </message>
+    <message>
+        <source>Clear log</source>
+        <translation>Protokoll leeren</translation>
+    </message>
+    <message>
+        <source>Are you sure ?</source>
+        <translation>Sind Sie sicher?</translation>
     </message>
 </context>
 <context>
@@ -385,6 +473,13 @@
         <source>%1 (%2 %)</source>
         <extracomment>%1 is the operation (e.g. &quot;Teach-in&quot;), %2 the progress in per cent</extracomment>
         <translation>%1 (%2 %)</translation>
+    </message>
+</context>
+<context>
+    <name>Utils::ThresholdWindowWidgetUniversal</name>
+    <message>
+        <source>Window %1</source>
+        <translation>Fenster %1</translation>
     </message>
 </context>
 <context>
