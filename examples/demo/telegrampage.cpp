@@ -67,10 +67,10 @@ std::string request(uint8_t command0, uint8_t command1, uint32_t dataLength)
     text with its own header and a data telegram with the record its commands
     ask for, a little later, as a real sensor would.
 */
-class SimulatedSensor : public QObject
+class TelegramSensor : public QObject
 {
 public:
-    explicit SimulatedSensor(QObject *parent)
+    explicit TelegramSensor(QObject *parent)
         : QObject(parent)
     {
     }
@@ -134,7 +134,7 @@ private:
 
 TelegramPage::TelegramPage(QWidget *parent)
     : DemoPage(parent)
-    , m_sensor(new SimulatedSensor(this))
+    , m_sensor(new TelegramSensor(this))
     , m_console(new QPlainTextEdit(this))
     , m_decoded(new QTreeWidget(this))
     , m_status(new QLabel(this))

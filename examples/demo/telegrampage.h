@@ -13,7 +13,7 @@ class QPushButton;
 class QTimer;
 class QTreeWidget;
 class QTreeWidgetItem;
-class SimulatedSensor;
+class TelegramSensor;
 
 namespace Utils {
 struct DataSequence;
@@ -43,7 +43,7 @@ private:
     QTreeWidgetItem *addGroup(const QString &title, const QString &value = QString());
     void showReplies(const std::list<Utils::DataSequence> &steps);
 
-    SimulatedSensor *m_sensor;
+    TelegramSensor *m_sensor;
     QPlainTextEdit *m_console;
     QTreeWidget *m_decoded;
     QLabel *m_status;
