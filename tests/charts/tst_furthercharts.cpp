@@ -197,7 +197,7 @@ private Q_SLOTS:
         QCOMPARE(view(plot), qMakePair(kT0, kT0 + 10000.0));
         QTRY_COMPARE_WITH_TIMEOUT(view(plot), qMakePair(kT0 + 10000.0, kT0 + 20000.0), 500);
         // After a pause longer than a page the view starts at the newest sample.
-        QTest::qWait(30);
+        TestSupport::waitForTimers(30);
         chart.vAppendData(100.0, true, kT0 + 47000.0);
         QCOMPARE(view(plot), qMakePair(kT0 + 47000.0, kT0 + 57000.0));
 
@@ -210,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(view(plot), qMakePair(kT0 + 47000.0, kT0 + 52000.0));
         chart.clear();
         QCOMPARE(chart.getData()->size(), 0);
-        QTest::qWait(30);
+        TestSupport::waitForTimers(30);
         chart.vAppendData(100.0, true, kT0 + 1000.0);
         QCOMPARE(view(plot), qMakePair(kT0 + 1000.0, kT0 + 6000.0));
     }

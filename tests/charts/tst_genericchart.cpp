@@ -210,7 +210,7 @@ private Q_SLOTS:
         auto *marker = chart.poPlot(0)->canvas()->findChild<Utils::ValueMarker *>();
         const double start = double(QDateTime::currentMSecsSinceEpoch());
         chart.vAppendData(0, 100.0, true, -65000.0, false, -1.0, start);
-        QTest::qWait(30);
+        TestSupport::waitForTimers(30);
         chart.vAppendData(0, 110.0, true, -65000.0, false, -1.0, start + 1.0); // 30 ms since the last redraw: drawn
         QCOMPARE(marker->s64Value(), 110.0);
         chart.vAppendData(0, 120.0, true, -65000.0, false, -1.0, start + 2.0); // within 20 ms: held back
@@ -238,7 +238,7 @@ private Q_SLOTS:
         const double width = first.second - first.first;
         for (double t = kT0 + 1000.0; t < first.second + 1000.0; t += 1000.0) {
             chart.vAppendData(0, 60.0, true, -65000.0, false, -1.0, t);
-            QTest::qWait(25);
+            TestSupport::waitForTimers(25);
         }
         // The newest sample passed the view: one page on, same width.
         QCOMPARE(view(), Rules::Window(first.second, first.second + width));

@@ -4,7 +4,9 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QTest>
+#include <QTimer>
 #include <QTranslator>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -26,6 +28,19 @@ inline bool showIn(QWidget *host, QWidget *widget, const QSize &size)
 {
     (new QVBoxLayout(host))->addWidget(widget);
     return show(host, size);
+}
+
+/*!
+    Runs the event loop until \a ms have passed. Unlike QTest::qWait, every timer
+    that fell due before then has been delivered when it returns, however late a
+    busy machine (a sanitizer build, parallel tests) lets the loop run: timers are
+    delivered in the order they fall due, and this wait ends on a timer of its own.
+*/
+inline void waitForTimers(int ms)
+{
+    QEventLoop loop;
+    QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 /*!
