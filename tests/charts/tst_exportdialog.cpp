@@ -183,8 +183,6 @@ private Q_SLOTS:
         row("PB_Select", "text", "Select", "Auswählen");
         row("GB_OutputPreview", "title", "Output Preview", "Ausgabevorschau");
         row("TB_OutputPreview", "plainText", "\n", "\n");
-        QTest::newRow("comma at start") << "CB_Comma" << QByteArray("checked") << "true"
-                                        << "true";
     }
 
     void texts()
@@ -251,9 +249,6 @@ private Q_SLOTS:
             "\n13-11-2026 18:13:05.250,nan,inf,-inf\n");
         row("non-finite or huge times", { { { kNaN, 1 }, { kInf, 2 }, { -1e19, 3 } } }, {}, "c", "", 0,
             "\n,1\n,2\n,3\n");
-        row("before 1970 and after 2037",
-            { { { at(11, 7, 1969, 10, 20, 0, 5), 1 }, { at(30, 6, 2100, 2, 53, 20, 999), 2 } } }, {}, "c", "", 0,
-            "\n11-07-1969 10:20:00.005,1\n30-06-2100 02:53:20.999,2\n");
     }
 
     void csvText()

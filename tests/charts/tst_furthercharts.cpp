@@ -109,31 +109,26 @@ private Q_SLOTS:
         QTest::addColumn<bool>("update");
         QTest::addColumn<QVector<QPointF>>("expected"); // of the first channel
 
+        const auto row = [](const char *name, Kind kind, double previous, double time, bool update,
+                             const QVector<QPointF> &expected) {
+            QTest::newRow(name) << kind << previous << time << update << expected;
+        };
         const double late15 = kT0 + 15000.001;
-        QTest::newRow("simple: first sample never breaks")
-            << Kind::Simple << 0.0 << kT0 << true << QVector<QPointF> { { kT0, 42.0 } };
-        QTest::newRow("simple: time 1.5 is taken as given")
-            << Kind::Simple << 0.0 << 1.5 << true << QVector<QPointF> { { 1.5, 42.0 } };
-        QTest::newRow("simple: a pause of exactly 15 s keeps the line")
-            << Kind::Simple << kT0 << kT0 + 15000.0 << true
-            << QVector<QPointF> { { kT0, 10.0 }, { kT0 + 15000.0, 42.0 } };
-        QTest::newRow("simple: a longer pause breaks at -1500")
-            << Kind::Simple << kT0 << late15 << true
-            << QVector<QPointF> { { kT0, 10.0 }, { kT0 + 1.0, -1500.0 }, { late15 - 1.0, -1500.0 }, { late15, 42.0 } };
-        QTest::newRow("simple: no valid value is -15000")
-            << Kind::Simple << kT0 << kT0 + 100.0 << false
-            << QVector<QPointF> { { kT0, 10.0 }, { kT0 + 100.0, -15000.0 } };
-
+        row("simple: first sample never breaks", Kind::Simple, 0.0, kT0, true, { { kT0, 42.0 } });
+        row("simple: time 1.5 is taken as given", Kind::Simple, 0.0, 1.5, true, { { 1.5, 42.0 } });
+        row("simple: a pause of exactly 15 s keeps the line", Kind::Simple, kT0, kT0 + 15000.0, true,
+            { { kT0, 10.0 }, { kT0 + 15000.0, 42.0 } });
+        row("simple: a longer pause breaks at -1500", Kind::Simple, kT0, late15, true,
+            { { kT0, 10.0 }, { kT0 + 1.0, -1500.0 }, { late15 - 1.0, -1500.0 }, { late15, 42.0 } });
+        row("simple: no valid value is -15000", Kind::Simple, kT0, kT0 + 100.0, false,
+            { { kT0, 10.0 }, { kT0 + 100.0, -15000.0 } });
         const double late10 = kT0 + 10000.5;
-        QTest::newRow("colour: a pause of exactly 10 s keeps the lines")
-            << Kind::Color << kT0 << kT0 + 10000.0 << true
-            << QVector<QPointF> { { kT0, 10.0 }, { kT0 + 10000.0, 42.0 } };
-        QTest::newRow("colour: a longer pause breaks at -1000")
-            << Kind::Color << kT0 << late10 << true
-            << QVector<QPointF> { { kT0, 10.0 }, { kT0 + 1.0, -1000.0 }, { late10 - 1.0, -1000.0 }, { late10, 42.0 } };
-        QTest::newRow("colour: no valid value is -10000")
-            << Kind::Color << kT0 << kT0 + 100.0 << false
-            << QVector<QPointF> { { kT0, 10.0 }, { kT0 + 100.0, -10000.0 } };
+        row("colour: a pause of exactly 10 s keeps the lines", Kind::Color, kT0, kT0 + 10000.0, true,
+            { { kT0, 10.0 }, { kT0 + 10000.0, 42.0 } });
+        row("colour: a longer pause breaks at -1000", Kind::Color, kT0, late10, true,
+            { { kT0, 10.0 }, { kT0 + 1.0, -1000.0 }, { late10 - 1.0, -1000.0 }, { late10, 42.0 } });
+        row("colour: no valid value is -10000", Kind::Color, kT0, kT0 + 100.0, false,
+            { { kT0, 10.0 }, { kT0 + 100.0, -10000.0 } });
     }
 
     void appendRules()

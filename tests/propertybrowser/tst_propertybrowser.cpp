@@ -2,13 +2,13 @@
 #include "qtpropertybrowser.h"
 #include "qttreepropertybrowser.h"
 
+#include "testhelpers.h"
 #include "treebrowserdriver.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTest>
-#include <QTranslator>
 
 #include <memory>
 
@@ -461,11 +461,10 @@ private Q_SLOTS:
         QTreeWidgetItem *header = TreeBrowserDriver(&browser).tree()->headerItem();
         QCOMPARE(header->text(0) + "|" + header->text(1), "Property|Value");
 
-        QTranslator german;
-        QVERIFY(german.load(":/translations/utils_de.qm"));
-        QCoreApplication::installTranslator(&german);
-        QTRY_COMPARE(header->text(0) + "|" + header->text(1), "Eigenschaft|Wert");
-        QCoreApplication::removeTranslator(&german);
+        {
+            TestSupport::GermanTranslation german;
+            QTRY_COMPARE(header->text(0) + "|" + header->text(1), "Eigenschaft|Wert");
+        }
         QTRY_COMPARE(header->text(0), "Property");
     }
 };
