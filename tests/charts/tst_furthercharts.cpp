@@ -95,11 +95,7 @@ class tst_FurtherCharts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
-        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    }
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
     void appendRules_data()
     {

@@ -75,8 +75,6 @@ class tst_GenericChart : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false")); }
-
     void rules_data()
     {
         QTest::addColumn<double>("last");

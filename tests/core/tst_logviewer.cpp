@@ -63,7 +63,6 @@ class tst_LogViewer : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         log = Log::requestInstance();
     }

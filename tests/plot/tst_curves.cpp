@@ -76,7 +76,6 @@ class tst_Curves : public QObject
     std::unique_ptr<QWidget> host;
 
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false")); }
     void cleanup() { host.reset(); }
 
     void factoryKeepsOneCurvePerSeries()

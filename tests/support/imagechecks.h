@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QDir>
+#include <QEvent>
 #include <QImage>
 #include <QWidget>
 
@@ -42,6 +43,21 @@ inline int countPixels(const QImage &image, const QRect &area, const std::functi
     }
     return count;
 }
+
+//! Counts the paint events \a widget receives from now on.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+};
 
 } // namespace TestSupport
 

@@ -60,7 +60,6 @@ class tst_NonFinite : public QObject
     std::unique_ptr<QWidget> host;
 
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false")); }
     void cleanup() { host.reset(); }
 
     void records_data() { values(); }

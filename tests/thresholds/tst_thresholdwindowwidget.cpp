@@ -61,8 +61,6 @@ class tst_ThresholdWindowWidget : public QObject
     PlotMarker *lowerMark() const { return window->poLowerMark(); }
 
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false")); }
-
     void init()
     {
         plot = std::make_unique<Utils::Plot>();

@@ -2,7 +2,7 @@
 #include "thresholds/valuemarker.h"
 #include "thresholds/valuemarkercolor.h"
 #include "thresholds/valuemarkermultilist.h"
-#include "testhelpers.h"
+#include "imagechecks.h"
 
 #include <qwt_plot.h>
 #include <qwt_plot_item.h>
@@ -14,6 +14,7 @@
 #include <cmath>
 #include <memory>
 
+using TestSupport::colorDistance;
 using Utils::ValueMarker;
 using Utils::ValueMarkerColor;
 using Utils::ValueMarkerMultiList;
@@ -33,18 +34,6 @@ ValueMarkerMultiList *multiList(ValueMarker *marker)
 {
     return qobject_cast<ValueMarkerMultiList *>(marker);
 }
-
-// Counts the paint events of the object it watches.
-class PaintCounter : public QObject
-{
-public:
-    int paints = 0;
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        paints += event->type() == QEvent::Paint;
-        return false;
-    }
-};
 
 // A plot item that only counts how often the plot draws it.
 class DrawCounter : public QwtPlotItem
@@ -75,11 +64,6 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-int distance(const QColor &a, const QColor &b)
-{
-    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Kind)
@@ -105,8 +89,6 @@ class tst_ValueMarker : public QObject
     }
 
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false")); }
-
     void init()
     {
         plot = std::make_unique<QwtPlot>();
@@ -282,25 +264,25 @@ private Q_SLOTS:
         plot->replot();
         ValueMarker *marker = create(kind);
         setup(marker);
-        const QImage image = plot->canvas()->grab().toImage();
-        image.save(QDir::temp().filePath(QStringLiteral("tst_valuemarker_%1.png").arg(int(kind))));
+        const QImage image
+            = TestSupport::grabImage(plot->canvas(), QStringLiteral("tst_valuemarker_%1").arg(int(kind)));
 
         // White at alpha 127 over the blue canvas where the text leaves the box alone (its last column).
         const QRect box = marker->geometry().adjusted(2, 0, -2, 0); // less the canvas frame
         for (int y = box.top(); y <= box.bottom(); ++y)
-            QVERIFY2(
-                distance(image.pixelColor(box.right(), y), QColor(127, 127, 255)) <= 6, qPrintable(QString::number(y)));
+            QVERIFY2(colorDistance(image.pixelColor(box.right(), y), QColor(127, 127, 255)) <= 6,
+                     qPrintable(QString::number(y)));
         // Beside and below the box the canvas shows as it is.
-        QVERIFY(distance(image.pixelColor(50, box.bottom() + 8), background) <= 6);
+        QVERIFY(colorDistance(image.pixelColor(50, box.bottom() + 8), background) <= 6);
         if (box.right() + 10 < image.width())
-            QVERIFY(distance(image.pixelColor(box.right() + 10, 15), background) <= 6);
+            QVERIFY(colorDistance(image.pixelColor(box.right() + 10, 15), background) <= 6);
 
         // Each ink is found in the box: the text is drawn in it, not only the background.
         for (const QColor &ink : qAsConst(inks)) {
             int best = 765;
             for (int y = box.top(); y <= box.bottom(); ++y)
                 for (int x = box.left(); x <= box.right(); ++x)
-                    best = std::min(best, distance(image.pixelColor(x, y), ink));
+                    best = std::min(best, colorDistance(image.pixelColor(x, y), ink));
             QVERIFY2(best <= 60, qPrintable(ink.name()));
         }
     }
@@ -310,21 +292,20 @@ private Q_SLOTS:
         auto *item = new DrawCounter;
         item->attach(plot.get());
         auto *marker = new ValueMarker(plot.get());
-        PaintCounter counter;
-        marker->installEventFilter(&counter);
+        TestSupport::PaintCounter counter(marker);
         plot->replot();
-        QTRY_VERIFY(counter.paints > 0);
+        QTRY_VERIFY(counter.count > 0);
         QTest::qWait(50);
-        counter.paints = 0;
+        counter.count = 0;
         item->draws = 0;
 
         // As a chart feeds a fast sensor: many samples between two frames.
         for (int i = 1; i <= 1000; ++i)
             marker->vSetValue(i, -i);
-        QCOMPARE(counter.paints, 0);
-        QTRY_COMPARE(counter.paints, 1);
+        QCOMPARE(counter.count, 0);
+        QTRY_COMPARE(counter.count, 1);
         QTest::qWait(50);
-        QCOMPARE(counter.paints, 1);
+        QCOMPARE(counter.count, 1);
         QCOMPARE(item->draws, 0);
         QCOMPARE(marker->labelText(), QStringLiteral("Signal 1000"));
         QCOMPARE(marker->s64Value(), 1000.0);

@@ -42,21 +42,6 @@ void clickAt(QWidget *window, const QPoint &pos)
     QTest::mouseClick(receiver, Qt::LeftButton, Qt::NoModifier, receiver->mapFrom(window, pos));
 }
 
-// Counts the paints a widget receives.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint;
-        return false;
-    }
-};
-
 // Mean lightness of a widget's pixels within its rect.
 int meanLightness(const QImage &image, const QRect &area)
 {
@@ -77,8 +62,6 @@ class tst_FurtherWidgets : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false")); }
-
     void statusTextsAndLamp_data()
     {
         QTest::addColumn<bool>("connected");
@@ -260,7 +243,7 @@ private Q_SLOTS:
         QVERIFY(bar.isIndeterminate());
         QCOMPARE(bar.nPercent(), -1);
         QCOMPARE(bar.oDisplayText(), QStringLiteral("Reading parameters"));
-        PaintCounter paints(&bar);
+        TestSupport::PaintCounter paints(&bar);
         bar.show();
         QVERIFY(QTest::qWaitForWindowExposed(&bar));
 

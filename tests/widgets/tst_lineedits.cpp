@@ -30,8 +30,6 @@ class tst_LineEdits : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false")); }
-
     // Typing the first character fades the clear button in over 160 ms, deleting the last fades it out;
     // a change between two texts starts nothing.
     void clearButtonFades()
