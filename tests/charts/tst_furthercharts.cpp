@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "imagechecks.h"
 #include "modaldialogdriver.h"
+#include "plottesthelpers.h"
 
 #include "charts/colorchart.h"
 #include "charts/levelcalibrationprompt.h"
@@ -10,7 +11,6 @@
 #include "plot/plot.h"
 
 #include <qwt_plot_canvas.h>
-#include <qwt_scale_div.h>
 #include <qwt_scale_map.h>
 
 #include <QLabel>
@@ -74,12 +74,6 @@ struct Panel
     std::unique_ptr<SimpleTimeChart> simple;
     std::unique_ptr<ColorChart> color;
 };
-
-QPair<double, double> view(const QwtPlot *plot)
-{
-    const QwtScaleDiv &div = plot->axisScaleDiv(QwtPlot::xBottom);
-    return qMakePair(div.lowerBound(), div.upperBound());
-}
 
 bool reddish(const QColor &c)
 {
@@ -178,19 +172,19 @@ private Q_SLOTS:
         SimpleTimeChart chart;
         chart.setTimeSpan(10000.0);
         QVERIFY(TestSupport::show(&chart, QSize(400, 220)));
-        const QwtPlot *plot = chart.poPlot();
+        const auto view = [&chart]() { return PlotTest::range(*chart.poPlot(), QwtPlot::xBottom); };
 
         // The first page starts at the first sample.
         chart.vAppendData(100.0, true, kT0);
-        QCOMPARE(view(plot), qMakePair(kT0, kT0 + 10000.0));
+        QCOMPARE(view(), qMakePair(kT0, kT0 + 10000.0));
         // Past the right end: one page on, once the 20 ms since the last redraw are over.
         chart.vAppendData(100.0, true, kT0 + 10500.0);
-        QCOMPARE(view(plot), qMakePair(kT0, kT0 + 10000.0));
-        QTRY_COMPARE_WITH_TIMEOUT(view(plot), qMakePair(kT0 + 10000.0, kT0 + 20000.0), 500);
+        QCOMPARE(view(), qMakePair(kT0, kT0 + 10000.0));
+        QTRY_COMPARE_WITH_TIMEOUT(view(), qMakePair(kT0 + 10000.0, kT0 + 20000.0), 500);
         // After a pause longer than a page the view starts at the newest sample.
         TestSupport::waitForTimers(30);
         chart.vAppendData(100.0, true, kT0 + 47000.0);
-        QCOMPARE(view(plot), qMakePair(kT0 + 47000.0, kT0 + 57000.0));
+        QCOMPARE(view(), qMakePair(kT0 + 47000.0, kT0 + 57000.0));
 
         // A new span keeps the page's start; clear() starts a new first page.
         QSignalSpy spanChanged(&chart, &SimpleTimeChart::timeSpanChanged);
@@ -198,12 +192,12 @@ private Q_SLOTS:
         chart.setTimeSpan(5000.0);
         chart.setTimeSpan(-1.0);
         QCOMPARE(spanChanged.count(), 1);
-        QCOMPARE(view(plot), qMakePair(kT0 + 47000.0, kT0 + 52000.0));
+        QCOMPARE(view(), qMakePair(kT0 + 47000.0, kT0 + 52000.0));
         chart.clear();
         QCOMPARE(chart.getData()->size(), 0);
         TestSupport::waitForTimers(30);
         chart.vAppendData(100.0, true, kT0 + 1000.0);
-        QCOMPARE(view(plot), qMakePair(kT0 + 1000.0, kT0 + 6000.0));
+        QCOMPARE(view(), qMakePair(kT0 + 1000.0, kT0 + 6000.0));
     }
 
     void simpleChartPaintsCurveAndBreak()

@@ -9,11 +9,10 @@
 #include "charts/valueovertime.h"
 #include "plot/plot.h"
 #include "thresholds/valuemarker.h"
-#include "testhelpers.h"
+#include "plottesthelpers.h"
 
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
-#include <qwt_scale_div.h>
 
 #include <QComboBox>
 #include <QDockWidget>
@@ -60,12 +59,6 @@ QVector<QPointF> samples(const Utils::ValueOverTime *series)
     for (int i = 0; series && i < series->size(); ++i)
         points.append(QPointF(series->pxData()[i], series->pyData()[i]));
     return points;
-}
-
-double span(const QwtPlot *plot)
-{
-    const QwtScaleDiv &div = plot->axisScaleDiv(QwtPlot::xBottom);
-    return div.upperBound() - div.lowerBound();
 }
 
 } // namespace
@@ -225,10 +218,7 @@ private Q_SLOTS:
         chart.setRangeScale(kT0, kT0 + 10000.0);
         chart.setFollowNewest(true);
         const QwtPlot *plot = chart.poPlot(0);
-        const auto view = [plot]() {
-            const QwtScaleDiv &div = plot->axisScaleDiv(QwtPlot::xBottom);
-            return Rules::Window(div.lowerBound(), div.upperBound());
-        };
+        const auto view = [plot]() { return PlotTest::range(*plot, QwtPlot::xBottom); };
         // The first sample brings the view to it (centred), as every long pause does.
         chart.vAppendData(0, 50.0, true, -65000.0, false, -1.0, kT0);
         const Rules::Window first = view();
@@ -266,10 +256,7 @@ private Q_SLOTS:
             chart.vAppendDataNoTime(0, i, kT0 + 1000.0 * i);
         Utils::ChartTimeLine *timeLine = chart.poTimeLine();
         chart.setTimelineScale(kT0 + 60000.0, kT0 + 120000.0);
-        const auto overview = [timeLine]() {
-            const QwtScaleDiv &div = timeLine->poPlot()->axisScaleDiv(QwtPlot::xBottom);
-            return Rules::Window(div.lowerBound(), div.upperBound());
-        };
+        const auto overview = [timeLine]() { return PlotTest::range(*timeLine->poPlot(), QwtPlot::xBottom); };
         Q_EMIT timeLine->vActionNext();
         QCOMPARE(overview(), Rules::Window(kT0 + 120000.0, kT0 + 180000.0));
         Q_EMIT timeLine->vActionPrev();
@@ -300,12 +287,12 @@ private Q_SLOTS:
         QSignalSpy plus(&chart, &GenericChart::IndependentPlotZoomPlusClick);
         QSignalSpy minus(&chart, &GenericChart::IndependentPlotZoomMinusClick);
         QSignalSpy resetSpy(&chart, &GenericChart::IndependentPlotZoomResetClick);
-        const double before = span(chart.poPlot(1));
+        const auto span = [&chart]() { return PlotTest::span(*chart.poPlot(1), QwtPlot::xBottom); };
+        const double before = span();
         QTest::mouseClick(zoomIn, Qt::LeftButton);
         QTest::mouseClick(zoomOut, Qt::LeftButton);
         // 0.8 x 1.2: not back to where it was.
-        QVERIFY2(std::fabs(span(chart.poPlot(1)) / before - 0.96) < 1e-6,
-            qPrintable(QString::number(span(chart.poPlot(1)) / before)));
+        QVERIFY2(std::fabs(span() / before - 0.96) < 1e-6, qPrintable(QString::number(span() / before)));
         QTest::mouseClick(reset, Qt::LeftButton);
         QCOMPARE(plus.count(), 1);
         QCOMPARE(minus.count(), 1);

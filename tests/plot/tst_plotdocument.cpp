@@ -2,6 +2,7 @@
 #include "plot/plotdocument.h"
 
 #include "filedialogdriver.h"
+#include "imagechecks.h"
 
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
@@ -55,12 +56,7 @@ bool similar(const QColor &a, const QColor &b)
 
 int countPixels(const QImage &image, const QColor &colour)
 {
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            count += similar(image.pixelColor(x, y), colour) ? 1 : 0;
-    }
-    return count;
+    return TestSupport::countPixels(image, image.rect(), [&colour](const QColor &c) { return similar(c, colour); });
 }
 
 } // namespace
