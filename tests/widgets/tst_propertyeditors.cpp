@@ -129,7 +129,6 @@ private Q_SLOTS:
     void managerSignals()
     {
         QFETCH(QString, change);
-        QFETCH(QString, emitted);
         QFETCH(QString, values);
 
         Panel panel;
@@ -146,7 +145,7 @@ private Q_SLOTS:
         else
             panel.paths.setFilter(property, text);
 
-        QCOMPARE(panel.log.join('|'), emitted);
+        QTEST(panel.log.join('|'), "emitted");
         QCOMPARE(panel.buttons.value(panel.teach) + "|" + panel.paths.value(panel.path) + "|"
                 + panel.paths.filter(panel.path),
             values);
@@ -185,7 +184,6 @@ private Q_SLOTS:
         QFETCH(QString, start);
         QFETCH(QString, keys);
         QFETCH(QString, edits);
-        QFETCH(QString, values);
 
         Panel panel(start);
         auto *editor = panel.open<FilePathEditor>("Path");
@@ -202,7 +200,7 @@ private Q_SLOTS:
                 QTest::keyClicks(lineEdit, key);
         }
         QCOMPARE(panel.texts("edit"), edits);
-        QCOMPARE(panel.texts("value"), values);
+        QTEST(panel.texts("value"), "values");
         QCOMPARE(panel.paths.value(panel.path), edits.section('|', -1));
         QCOMPARE(editor->filePath(), edits.section('|', -1));
     }
@@ -223,7 +221,6 @@ private Q_SLOTS:
     void fileDialog()
     {
         QFETCH(QString, answer);
-        QFETCH(QString, emitted);
 
         QTemporaryDir dir;
         for (const char *name : { "a.txt", "b.txt" }) {
@@ -247,7 +244,7 @@ private Q_SLOTS:
 
         QVERIFY(*shown);
         QCOMPARE(seen, "Text (*.txt)");
-        QCOMPARE(panel.log.join('|').remove(dir.path() + "/"), emitted);
+        QTEST(panel.log.join('|').remove(dir.path() + "/"), "emitted");
         const QString path = dir.filePath(answer == "b.txt" ? "b.txt" : "a.txt");
         QCOMPARE(editor->filePath(), path);
         QCOMPARE(panel.paths.value(panel.path), path);
