@@ -10,11 +10,9 @@
 #include <assistant/spinboxcomponent.h>
 #include <assistant/switchcomponent.h>
 
-#include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>

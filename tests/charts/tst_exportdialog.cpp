@@ -25,7 +25,6 @@
 #include <QTest>
 #include <QTextEdit>
 
-#include <cmath>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -524,33 +523,29 @@ private Q_SLOTS:
         QTest::addColumn<Samples>("stored");
         QTest::addColumn<int>("emitted");
 
+        const auto row = [](const char *name, const Samples &appended, Edit edit, int index, const Samples &stored,
+                             int emitted) { QTest::newRow(name) << appended << edit << index << stored << emitted; };
         const QPointF a(1000, 5);
         const Samples five { { 10, 1 }, { 20, 2 }, { 30, 3 }, { 40, 4 }, { 50, 5 } };
         Samples replaced = five;
         replaced[0] = QPointF(0.0, 9.0); // 0.0 is not "now" here
-        QTest::newRow("exact repeat dropped") << Samples { a, a } << Edit::None << 0 << Samples { a } << 1;
-        QTest::newRow("same time, other value")
-            << Samples { a, { 1000, 6 } } << Edit::None << 0 << Samples { a, { 1000, 6 } } << 2;
-        QTest::newRow("same value, other time")
-            << Samples { a, { 1001, 5 } } << Edit::None << 0 << Samples { a, { 1001, 5 } } << 2;
-        QTest::newRow("repeat of an older sample")
-            << Samples { a, { 2000, 6 }, a } << Edit::None << 0 << Samples { a, { 2000, 6 }, a } << 3;
-        QTest::newRow("-0.0 repeats 0.0")
-            << Samples { { 7, 0.0 }, { 7, -0.0 } } << Edit::None << 0 << Samples { { 7, 0.0 } } << 1;
-        QTest::newRow("time going backwards")
-            << Samples { a, { 10, 5 } } << Edit::None << 0 << Samples { a, { 10, 5 } } << 2;
-        QTest::newRow("erase fewer than held") << five << Edit::Erase << 2 << five.mid(2) << 5;
-        QTest::newRow("erase all held") << five << Edit::Erase << 5 << Samples() << 5;
-        QTest::newRow("erase more than held") << five << Edit::Erase << 6 << five << 5;
-        QTest::newRow("erase negative") << five << Edit::Erase << -2 << five << 5;
-        QTest::newRow("remove middle") << five << Edit::Remove << 2 << Samples { five[0], five[1], five[3], five[4] }
-                                       << 6;
-        QTest::newRow("remove past the end") << five << Edit::Remove << 5 << five << 5;
-        QTest::newRow("remove negative") << five << Edit::Remove << -1 << five << 5;
-        QTest::newRow("replace first") << five << Edit::Replace << 0 << replaced << 6;
-        QTest::newRow("replace past the end") << five << Edit::Replace << 5 << five << 5;
-        QTest::newRow("clear") << five << Edit::Clear << 0 << Samples() << 6;
-        QTest::newRow("clear empty") << Samples() << Edit::Clear << 0 << Samples() << 0;
+        row("exact repeat dropped", { a, a }, Edit::None, 0, { a }, 1);
+        row("same time, other value", { a, { 1000, 6 } }, Edit::None, 0, { a, { 1000, 6 } }, 2);
+        row("same value, other time", { a, { 1001, 5 } }, Edit::None, 0, { a, { 1001, 5 } }, 2);
+        row("repeat of an older sample", { a, { 2000, 6 }, a }, Edit::None, 0, { a, { 2000, 6 }, a }, 3);
+        row("-0.0 repeats 0.0", { { 7, 0.0 }, { 7, -0.0 } }, Edit::None, 0, { { 7, 0.0 } }, 1);
+        row("time going backwards", { a, { 10, 5 } }, Edit::None, 0, { a, { 10, 5 } }, 2);
+        row("erase fewer than held", five, Edit::Erase, 2, five.mid(2), 5);
+        row("erase all held", five, Edit::Erase, 5, Samples(), 5);
+        row("erase more than held", five, Edit::Erase, 6, five, 5);
+        row("erase negative", five, Edit::Erase, -2, five, 5);
+        row("remove middle", five, Edit::Remove, 2, { five[0], five[1], five[3], five[4] }, 6);
+        row("remove past the end", five, Edit::Remove, 5, five, 5);
+        row("remove negative", five, Edit::Remove, -1, five, 5);
+        row("replace first", five, Edit::Replace, 0, replaced, 6);
+        row("replace past the end", five, Edit::Replace, 5, five, 5);
+        row("clear", five, Edit::Clear, 0, Samples(), 6);
+        row("clear empty", Samples(), Edit::Clear, 0, Samples(), 0);
     }
 
     void appendAndEdit()

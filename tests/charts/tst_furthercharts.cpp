@@ -18,7 +18,6 @@
 #include <QtTest>
 
 #include <chrono>
-#include <cmath>
 #include <limits>
 
 using TestSupport::colorDistance;

@@ -21,7 +21,6 @@
 #include <QtTest>
 
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <memory>
 

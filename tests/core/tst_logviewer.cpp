@@ -5,7 +5,6 @@
 #include "filedialogdriver.h"
 #include "widgets/filterlineedit.h"
 
-#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>

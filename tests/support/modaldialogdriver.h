@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
-#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 

@@ -11,7 +11,6 @@
 #include <QTranslator>
 #include <QtTest>
 
-#include <cmath>
 #include <memory>
 
 using TestSupport::colorDistance;
