@@ -201,7 +201,6 @@ private Q_SLOTS:
         QVERIFY(property.isWritable());
         QCOMPARE(property.notifySignal().name(), notifyName.toLatin1());
         const auto spy = notifySpy(element, property);
-        QVERIFY(spy->isValid());
 
         QVERIFY(element->setProperty(name, element->property(name)));
         QCOMPARE(spy->count(), 0);
@@ -395,7 +394,6 @@ private Q_SLOTS:
         for (const char *name : { "backgroundColor", "backgroundColor1", "backgroundColor2", "backgroundColor3" }) {
             QCOMPARE(signal.property(name).toString(), QStringLiteral("white"));
             const auto spy = notifySpy(&signal, metaProperty(&signal, name));
-            QVERIFY(spy->isValid());
             signal.setProperty(name, QStringLiteral("white"));
             signal.setProperty(name, QStringLiteral("white"));
             signal.setProperty(name, QStringLiteral("#00ff00"));
