@@ -340,7 +340,6 @@ private Q_SLOTS:
         setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
         Utils::PlotMarkerUniversal marker(m_plot);
         QCOMPARE(marker.isVertical(), vertical);
-        QCOMPARE(marker.pen().color(), QColor(200, 0, 0, 50));
         marker.setValue(100.0);
         if (!vertical) {
             QCOMPARE(marker.width(), m_plot->width());
