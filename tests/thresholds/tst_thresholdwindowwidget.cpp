@@ -78,9 +78,6 @@ private Q_SLOTS:
 
     void construction()
     {
-        QCOMPARE(upperMark()->cursor().shape(), Qt::SizeVerCursor);
-        QCOMPARE(lowerMark()->noiseOrientation(), PlotMarker::OrientationBandBelow);
-        QCOMPARE(upperMark()->noiseOrientation(), PlotMarker::OrientationBandAbove);
         // The upper mark may go from minDifference above the scale's bottom to its top.
         QCOMPARE(upperMark()->lower(), 1.0);
         QCOMPARE(upperMark()->upper(), 100.0);
