@@ -223,7 +223,6 @@ private Q_SLOTS:
         const QWidget *canvas = plot->canvas();
         const auto expected = [&]() { return QRect(0, 3, custom ? canvas->width() : 100, 30); };
         ValueMarker *marker = create(kind);
-        QCOMPARE(marker->parentWidget(), canvas);
         QCOMPARE(marker->geometry(), QRect(QPoint(0, 3), QPoint(99, 32)));
         marker->vSetCustom(custom);
         QCOMPARE(marker->geometry(), expected());
