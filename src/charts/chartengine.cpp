@@ -287,8 +287,7 @@ void ChartEngine::append(int plot, double data, bool update, double data1, doubl
     ValueOverTime &series = *p.curves.front().series;
     const int size = series.size();
     const double last = size > 0 ? series.pxData()[size - 1] : 0.0;
-    // The clock is read only for a sample without a time of its own.
-    const double time = timeValue > 1.0 ? timeValue : wallClockMs();
+    const double time = sampleTime(timeValue);
     const Rules::SampleRules &rules = config.rules;
     const bool withExtra = dataExtra > Rules::kNoExtraValue && !extra.empty();
     // The marker's values first: the append below may redraw, which shows them.
@@ -340,7 +339,7 @@ void ChartEngine::appendCurves(int plot, const QList<double> &values, const QLis
     ChartPlot &p = plots[size_t(plot)];
     const ValueOverTime &first = *p.curves.front().series;
     const double previous = first.size() > 0 ? first.pxData()[first.size() - 1] : 0.0;
-    const double time = timeValue > 1.0 ? timeValue : wallClockMs();
+    const double time = sampleTime(timeValue);
     const Rules::SampleRules &rules = config.rules;
     const bool pause = breaks && Rules::needsBreak(rules, previous, time);
     if (toMarker) {

@@ -51,12 +51,6 @@ constexpr int kHistoryDrop = 225000;
 //! Shortest time between two redraws.
 constexpr double kRedrawIntervalMs = 20.0;
 
-//! A time of 1.0 or less (0, negative, NaN) means "now".
-inline double stampTime(double timeValue, double nowMs)
-{
-    return timeValue > 1.0 ? timeValue : nowMs;
-}
-
 //! Whether a sample at \a time after the newest at \a last breaks the curve; never for the first sample (last 0).
 inline bool needsBreak(const SampleRules &rules, double last, double time)
 {

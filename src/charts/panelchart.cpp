@@ -61,8 +61,7 @@ double PanelChart::append(const double *values, bool update, double timeValue)
     const ValueOverTime &first = *curves.front().series;
     const int size = first.size();
     const double last = size > 0 ? first.pxData()[size - 1] : 0.0;
-    // The clock is read only for a sample without a time of its own.
-    const double time = timeValue > 1.0 ? timeValue : wallClockMs();
+    const double time = sampleTime(timeValue);
     const bool pause = Rules::needsBreak(rules, last, time);
     for (size_t i = 0; i < curves.size(); ++i) {
         ValueOverTime &series = *curves[i].series;

@@ -21,6 +21,15 @@ inline double wallClockMs()
     return double(duration_cast<microseconds>(system_clock::now().time_since_epoch()).count()) / 1000.0;
 }
 
+/*!
+    The time a sample is stored at: its own, or the wall clock for a time of 1.0
+    or less (0, negative, NaN mean "now"). The clock is read only then.
+*/
+inline double sampleTime(double timeValue)
+{
+    return timeValue > 1.0 ? timeValue : wallClockMs();
+}
+
 } // namespace Charts
 } // namespace Utils
 
