@@ -176,14 +176,7 @@ void ChartEngine::initMembers()
     delayTimer->setSingleShot(true);
     delayTimer->setInterval(500);
     QObject::connect(delayTimer, &QTimer::timeout, q, &AbstractChart::sendDelayValue);
-    coolDown = new QTimer(q);
-    coolDown->setSingleShot(true);
-    coolDown->setTimerType(Qt::PreciseTimer);
-    coolDown->setInterval(int(Rules::kRedrawIntervalMs));
-    QObject::connect(coolDown, &QTimer::timeout, q, [this]() {
-        if (pending)
-            dataUpdated();
-    });
+    throttle = std::make_unique<RedrawThrottle>(q, [this]() { frame(); });
 }
 
 void ChartEngine::attachCurves(ChartCurve &c, ChartPlot &p)
@@ -514,15 +507,7 @@ void ChartEngine::pushMarkers()
 
 void ChartEngine::dataUpdated()
 {
-    // Within 20 ms of the last redraw the samples wait for the cool-down's end;
-    // this costs one test per sample and no clock read.
-    if (coolDown->isActive()) {
-        pending = true;
-        return;
-    }
-    pending = false;
-    coolDown->start();
-    frame();
+    throttle->request();
 }
 
 void ChartEngine::frame()

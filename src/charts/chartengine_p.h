@@ -7,6 +7,7 @@
 // redraws incrementally and navigates over the history. Not installed.
 
 #include "charts/chartrules_p.h"
+#include "charts/redrawthrottle_p.h"
 #include "charts/charttimeline.h"
 
 #include <QColor>
@@ -190,9 +191,8 @@ public:
     QwtPlotDirectPainter *painter = nullptr;
     //! Single shot, 500 ms: sendDelayValue() once the axes have settled.
     QTimer *delayTimer = nullptr;
-    // Runs for 20 ms after each redraw; samples that come meanwhile wait for its end.
-    QTimer *coolDown = nullptr;
-    bool pending = false;
+    //! Samples that come within 20 ms of a redraw wait for the cool-down's end.
+    std::unique_ptr<RedrawThrottle> throttle;
     bool trimmed = false;
 
     bool plottingEnabled = true;

@@ -25,7 +25,7 @@ PanelChart::PanelChart(QWidget *owner, int count, const Rules::SampleRules &samp
     : plot(new Plot(owner, true))
     , factory(std::make_unique<CurveFactory>(plot))
     , painter(new QwtPlotDirectPainter)
-    , coolDown(new QTimer(owner))
+    , throttle(owner, [this]() { frame(); })
     , rules(sampleRules)
 {
     // A panel shows what comes in; the host sets the value scale, nothing
@@ -42,13 +42,6 @@ PanelChart::PanelChart(QWidget *owner, int count, const Rules::SampleRules &samp
         c.curve = factory->poAttachData(c.series.get());
         c.curve->setBaseline(Rules::kBaseline);
     }
-    coolDown->setSingleShot(true);
-    coolDown->setTimerType(Qt::PreciseTimer);
-    coolDown->setInterval(int(Rules::kRedrawIntervalMs));
-    QObject::connect(coolDown, &QTimer::timeout, owner, [this]() {
-        if (pending)
-            dataUpdated();
-    });
 }
 
 PanelChart::~PanelChart()
@@ -96,15 +89,7 @@ void PanelChart::clear()
 
 void PanelChart::dataUpdated()
 {
-    // Within 20 ms of the last redraw the samples wait for the cool-down's end;
-    // this costs one test per sample and no clock read.
-    if (coolDown->isActive()) {
-        pending = true;
-        return;
-    }
-    pending = false;
-    coolDown->start();
-    frame();
+    throttle.request();
 }
 
 void PanelChart::frame()

@@ -8,6 +8,7 @@
 // installed.
 
 #include "charts/chartrules_p.h"
+#include "charts/redrawthrottle_p.h"
 
 #include <QColor>
 #include <QString>
@@ -71,9 +72,8 @@ public:
     std::vector<Curve> curves;
     std::unique_ptr<CurveFactory> factory;
     QwtPlotDirectPainter *painter = nullptr;
-    // Runs for 20 ms after each redraw; samples that come meanwhile wait for its end.
-    QTimer *coolDown = nullptr;
-    bool pending = false;
+    //! Samples that come within 20 ms of a redraw wait for the cool-down's end.
+    RedrawThrottle throttle;
     bool trimmed = false;
     Rules::SampleRules rules;
     double span = 60000.0;
