@@ -447,9 +447,25 @@ void ChartEngine::moveTimeLine(const Rules::Window &w)
     const RangeSelector *selector = timeLine->poRangeSelector();
     const double leftPx = selector->geometry().left();
     const double rightPx = selector->geometry().right() + 1;
+    // A window narrower than the selector's least width (a narrow strip, or one
+    // in a hidden tab) is not what the pixels show; it keeps its place in the
+    // overview by its times instead.
+    const Rules::Window before = timeLineWindow();
+    const Rules::Window selection(timeLine->selectionLeft(), timeLine->selectionRight());
+    const QwtScaleMap oldMap = timeLine->poPlot()->canvasMap(QwtPlot::xBottom);
+    const bool byPixels = std::fabs(oldMap.transform(selection.first) - leftPx) <= 1.0
+        && std::fabs(oldMap.transform(selection.second) - rightPx) <= 1.0;
     timeLine->vUpdateXAxisScale(w.first, w.second);
-    const QwtScaleMap map = timeLine->poPlot()->canvasMap(QwtPlot::xBottom);
-    q->timeLineRangeUpdated(map.invTransform(leftPx), map.invTransform(rightPx));
+    if (byPixels || !(before.second > before.first)) {
+        const QwtScaleMap map = timeLine->poPlot()->canvasMap(QwtPlot::xBottom);
+        q->timeLineRangeUpdated(map.invTransform(leftPx), map.invTransform(rightPx));
+        return;
+    }
+    const double scale = (w.second - w.first) / (before.second - before.first);
+    const double left = w.first + (selection.first - before.first) * scale;
+    const double right = w.first + (selection.second - before.first) * scale;
+    timeLine->setSelectorRange(left, right, false);
+    q->timeLineRangeUpdated(left, right);
 }
 
 void ChartEngine::passSelectorOn()

@@ -196,7 +196,7 @@ void ChartTimeLine::vUpdateXAxisScale(const double &low, const double &high)
 
 void ChartTimeLine::setSelectorRange(const double &low, const double &high, bool bEmit)
 {
-    if (!std::isfinite(low) || !std::isfinite(high))
+    if (!std::isfinite(low) || !std::isfinite(high) || !(high > low))
         return;
     // A window beyond the overview widens it just enough to hold the window;
     // a window inside it leaves the overview as it is.
@@ -207,6 +207,16 @@ void ChartTimeLine::setSelectorRange(const double &low, const double &high, bool
         vUpdateXAxisScale(std::min(low, lower), std::max(high, upper));
     const double lowPx = d->plot->transform(QwtPlot::xBottom, low);
     const double highPx = d->plot->transform(QwtPlot::xBottom, high);
+    if (!(highPx - lowPx >= kMinSelectorWidth)) {
+        // Narrower than the selector can be: a narrow strip, or one not laid out
+        // yet (in a hidden tab). The window keeps its times, and the selector
+        // stands over it at its least width until the canvas is wide enough.
+        vStoreWindow(low, high);
+        vPlaceWindow();
+        if (bEmit)
+            Q_EMIT vRangeChanged(low, high);
+        return;
+    }
     d->selector->vSetRange(lowPx, highPx, bEmit);
     if (bEmit)
         return; // stored by vRangeSelectorUpdated()

@@ -18,6 +18,7 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QtTest>
 
 #include <cmath>
@@ -207,6 +208,34 @@ private Q_SLOTS:
         QCOMPARE(marker->s64Value(), 110.0);
         // The held-back sample is drawn shortly after, without a further sample.
         QTRY_COMPARE_WITH_TIMEOUT(marker->s64Value(), 120.0, 500);
+    }
+
+    // A chart in a tab that is not shown has a canvas too narrow for its selection:
+    // the window keeps its ten seconds while samples come, and is right when shown.
+    void hiddenTabKeepsTheWindow()
+    {
+        QTabWidget tabs;
+        tabs.addTab(new QWidget, QStringLiteral("first"));
+        auto *chart = new GenericChartColor(1, nullptr, nullptr, false, false, 3);
+        tabs.addTab(chart, QStringLiteral("chart"));
+        QVERIFY(TestSupport::show(&tabs, QSize(1000, 600)));
+        QVERIFY(chart->poTimeLine()->poPlot()->canvas()->width() < 200);
+        chart->resetView();
+        const double start = double(QDateTime::currentMSecsSinceEpoch());
+        const auto window = [chart]() {
+            const QwtScaleDiv &div = chart->poPlot(0)->axisScaleDiv(QwtPlot::xBottom);
+            return Rules::Window(div.lowerBound(), div.upperBound());
+        };
+        for (int i = 0; i < 3; ++i) {
+            chart->vAppendDataMultipleCurvesRGB(0, {10.0, 20.0, 30.0}, true, start + 100.0 * i, QString());
+            TestSupport::waitForTimers(25);
+            QCOMPARE(window().second - window().first, 10000.0);
+            QVERIFY(window().first <= start + 100.0 * i && window().second >= start + 100.0 * i);
+        }
+        tabs.setCurrentIndex(1);
+        QTRY_VERIFY(chart->poTimeLine()->poPlot()->canvas()->width() > 600);
+        QCOMPARE(window().second - window().first, 10000.0);
+        QCOMPARE(chart->poTimeLine()->selectionRight() - chart->poTimeLine()->selectionLeft(), 10000.0);
     }
 
     void followingPagesAndFreezing()
