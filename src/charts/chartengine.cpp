@@ -664,14 +664,14 @@ QWidget *ChartEngine::buildZoomBar(int plot)
     auto *layout = new QHBoxLayout(p.zoomBar);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    struct Spec
+    struct ZoomButton
     {
         const char *icon;
         QSize size;
         const char *tip;
         const char *name;
     };
-    const Spec specs[] = {
+    const ZoomButton zoomButtons[] = {
         {":/newPrefix/icons/Zoom_in_new-01.svg", QSize(20, 20), QT_TRANSLATE_NOOP("Utils::Charts::AbstractChart", "Zoom In"),
          "zoomInX"},
         {":/newPrefix/icons/Zoom_reset_Ver.svg", QSize(10, 20),
@@ -679,15 +679,15 @@ QWidget *ChartEngine::buildZoomBar(int plot)
         {":/newPrefix/icons/Zoom_out_new-01.svg", QSize(20, 20),
          QT_TRANSLATE_NOOP("Utils::Charts::AbstractChart", "Zoom Out"), "zoomOutX"},
     };
-    for (const Spec &spec : specs) {
+    for (const ZoomButton &look : zoomButtons) {
         auto *button = new QPushButton(p.zoomBar);
-        button->setObjectName(QLatin1String(spec.name));
-        button->setIcon(QIcon(QLatin1String(spec.icon)));
-        button->setIconSize(spec.size);
-        button->setFixedSize(spec.size);
+        button->setObjectName(QLatin1String(look.name));
+        button->setIcon(QIcon(QLatin1String(look.icon)));
+        button->setIconSize(look.size);
+        button->setFixedSize(look.size);
         button->setCursor(Qt::PointingHandCursor);
         button->setStyleSheet(QLatin1String(kRoundButtonStyle));
-        button->setToolTip(AbstractChart::tr(spec.tip));
+        button->setToolTip(AbstractChart::tr(look.tip));
         layout->addWidget(button);
     }
     static_cast<QHBoxLayout *>(p.header->layout())->addWidget(p.zoomBar);
