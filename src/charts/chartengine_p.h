@@ -63,6 +63,29 @@ struct ChartConfig
     bool legend = false;
     //! Charts without time have no docks and no time-stamped appends.
     bool timed = true;
+
+    //! A time chart of \a plots plots, docked in \a mainWindow when one is given.
+    static ChartConfig timeChart(int plots, QMainWindow *mainWindow, bool secondMarker, bool secondFlag)
+    {
+        ChartConfig config;
+        config.plots = plots;
+        config.mainWindow = mainWindow;
+        config.secondMarker = secondMarker;
+        config.secondFlag = secondFlag;
+        return config;
+    }
+
+    //! A multi-curve chart: its break rules, a legend, \a marker's label and \a curves curves per plot.
+    static ChartConfig multiCurve(int plots, QMainWindow *mainWindow, bool secondMarker, bool secondFlag,
+                                  MarkerKind marker, int curves = 1)
+    {
+        ChartConfig config = timeChart(plots, mainWindow, secondMarker, secondFlag);
+        config.rules = Rules::kMultiCurve;
+        config.legend = true;
+        config.marker = marker;
+        config.curvesPerPlot = curves;
+        return config;
+    }
 };
 
 //! One curve of a plot: its series, its curve on the plot and its copy on the time line.

@@ -15,23 +15,13 @@ namespace Charts {
 
 namespace {
 
-ChartConfig genericConfig(int plots, QMainWindow *mainWindow, bool secondMarker, bool flag)
-{
-    ChartConfig config;
-    config.plots = plots;
-    config.mainWindow = mainWindow;
-    config.secondMarker = secondMarker;
-    config.secondFlag = flag;
-    return config;
-}
-
 //! -999999.0 in data1 of vAppendMultiFake: the second marker value stays as it is.
 constexpr double kKeepSecondValue = -999999.0;
 
 } // namespace
 
 GenericChart::GenericChart(int plots, QWidget *parent, QMainWindow *mainWindow, bool secondValueMarker, bool flag)
-    : AbstractTimeChart(genericConfig(plots, mainWindow, secondValueMarker, flag), parent)
+    : AbstractTimeChart(ChartConfig::timeChart(plots, mainWindow, secondValueMarker, flag), parent)
 {
 }
 

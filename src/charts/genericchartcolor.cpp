@@ -10,20 +10,6 @@ namespace Charts {
 
 namespace {
 
-ChartConfig colorConfig(int plots, QMainWindow *mainWindow, bool secondMarker, bool flag, int curves)
-{
-    ChartConfig config;
-    config.plots = plots;
-    config.mainWindow = mainWindow;
-    config.secondMarker = secondMarker;
-    config.secondFlag = flag;
-    config.rules = Rules::kMultiCurve;
-    config.legend = true;
-    config.marker = MarkerKind::Color;
-    config.curvesPerPlot = curves;
-    return config;
-}
-
 // The channels in their own colours, then further signals in quieter ones.
 QColor channelColour(int index)
 {
@@ -49,7 +35,8 @@ QString channelName(int index)
 
 GenericChartColor::GenericChartColor(int plots, QWidget *parent, QMainWindow *mainWindow, bool secondValueMarker,
                                      bool flag, int curves)
-    : GenericChartMulti(colorConfig(plots, mainWindow, secondValueMarker, flag, curves), parent)
+    : GenericChartMulti(
+          ChartConfig::multiCurve(plots, mainWindow, secondValueMarker, flag, MarkerKind::Color, curves), parent)
 {
     for (int plot = 0; plot < count(); ++plot) {
         for (int c = 0; c < int(engine()->plots[size_t(plot)].curves.size()); ++c) {

@@ -6,26 +6,10 @@
 namespace Utils {
 namespace Charts {
 
-namespace {
-
-ChartConfig multiListConfig(int plots, QMainWindow *mainWindow, bool secondMarker, bool flag)
-{
-    ChartConfig config;
-    config.plots = plots;
-    config.mainWindow = mainWindow;
-    config.secondMarker = secondMarker;
-    config.secondFlag = flag;
-    config.rules = Rules::kMultiCurve;
-    config.legend = true;
-    config.marker = MarkerKind::MultiList;
-    return config;
-}
-
-} // namespace
-
 GenericChartMultiList::GenericChartMultiList(int plots, QWidget *parent, QMainWindow *mainWindow,
                                              bool secondValueMarker, bool flag)
-    : AbstractMultiCurveChart(multiListConfig(plots, mainWindow, secondValueMarker, flag), parent)
+    : AbstractMultiCurveChart(
+          ChartConfig::multiCurve(plots, mainWindow, secondValueMarker, flag, MarkerKind::MultiList), parent)
 {
 }
 
