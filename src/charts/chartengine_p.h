@@ -135,6 +135,9 @@ struct ChartPlot
     QList<QColor> markerColors;
     QString markerName;
     enum class ListForm { None, Color, List, ColorList } listForm = ListForm::None;
+    //! The name and number of values the curves were last named after (vAppendDataMultipleCurves).
+    QString curvesNamedAfter;
+    int curvesNamed = -1;
 };
 
 class ChartEngine

@@ -6,25 +6,10 @@
 namespace Utils {
 namespace Charts {
 
-namespace {
-
-ChartConfig multiConfig(int plots, QMainWindow *mainWindow, bool secondMarker, bool flag)
-{
-    ChartConfig config;
-    config.plots = plots;
-    config.mainWindow = mainWindow;
-    config.secondMarker = secondMarker;
-    config.secondFlag = flag;
-    config.rules = Rules::kMultiCurve;
-    config.legend = true;
-    return config;
-}
-
-} // namespace
-
 GenericChartMulti::GenericChartMulti(int plots, QWidget *parent, QMainWindow *mainWindow, bool secondValueMarker,
                                      bool flag)
-    : AbstractMultiCurveChart(multiConfig(plots, mainWindow, secondValueMarker, flag), parent)
+    : AbstractMultiCurveChart(
+          ChartConfig::multiCurve(plots, mainWindow, secondValueMarker, flag, MarkerKind::Plain), parent)
 {
 }
 
@@ -50,6 +35,12 @@ void GenericChartMulti::vAppendDataMultipleCurves(int plotNr, QList<double> valu
         p.markerSecond = 0.0;
     }
     e->appendCurves(plotNr, values, {}, {}, update, timeValue, true);
+    // Named when the name or the number of values changes, not per sample: building
+    // the titles would allocate at every append of a fast sensor.
+    if (name == p.curvesNamedAfter && values.size() == p.curvesNamed)
+        return;
+    p.curvesNamedAfter = name;
+    p.curvesNamed = values.size();
     for (int i = 0; i < values.size(); ++i)
         vNameCurve(plotNr, i, values.size() == 1 || name.isEmpty() ? name : QStringLiteral("%1 %2").arg(name).arg(i + 1));
 }
