@@ -12,6 +12,8 @@
 #include <charts/simpletimechart.h>
 #include <charts/valueovertime.h>
 
+#include "allocationcounter.h"
+
 #include <QApplication>
 #include <QByteArray>
 #include <QFile>
@@ -29,76 +31,6 @@
 #include <memory>
 #include <new>
 #include <vector>
-
-// Every heap allocation of the process is counted: operator new here, and on
-// glibc malloc and realloc too, through which Qt's containers allocate.
-namespace {
-std::atomic<long long> g_allocations { 0 };
-}
-
-#if defined(__GLIBC__)
-extern "C" {
-void *__libc_malloc(size_t size);
-void *__libc_calloc(size_t count, size_t size);
-void *__libc_realloc(void *pointer, size_t size);
-void __libc_free(void *pointer);
-
-void *malloc(size_t size)
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_malloc(size);
-}
-void *calloc(size_t count, size_t size)
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_calloc(count, size);
-}
-void *realloc(void *pointer, size_t size)
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_realloc(pointer, size);
-}
-void free(void *pointer)
-{
-    __libc_free(pointer);
-}
-}
-#define UTILS_BENCH_RAW_MALLOC __libc_malloc
-#define UTILS_BENCH_RAW_FREE __libc_free
-#define UTILS_BENCH_COUNTS "operator new, malloc, calloc, realloc"
-#else
-#define UTILS_BENCH_RAW_MALLOC std::malloc
-#define UTILS_BENCH_RAW_FREE std::free
-#define UTILS_BENCH_COUNTS "operator new"
-#endif
-
-void *operator new(size_t size)
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    if (void *pointer = UTILS_BENCH_RAW_MALLOC(size ? size : 1))
-        return pointer;
-    throw std::bad_alloc();
-}
-void *operator new[](size_t size)
-{
-    return operator new(size);
-}
-void operator delete(void *pointer) noexcept
-{
-    UTILS_BENCH_RAW_FREE(pointer);
-}
-void operator delete[](void *pointer) noexcept
-{
-    UTILS_BENCH_RAW_FREE(pointer);
-}
-void operator delete(void *pointer, size_t) noexcept
-{
-    UTILS_BENCH_RAW_FREE(pointer);
-}
-void operator delete[](void *pointer, size_t) noexcept
-{
-    UTILS_BENCH_RAW_FREE(pointer);
-}
 
 namespace {
 
@@ -153,10 +85,10 @@ void benchAppend()
         Curve curve;
         QObject::connect(&series, SIGNAL(vDataUpdated(const double *, const double *, const int)), &curve,
             SLOT(vUpdateData(const double *, const double *, int)));
-        const long long before = g_allocations.load();
+        const long long before = TestSupport::allocations.load();
         for (int i = 0; i < kHistory; ++i)
             series.vAppend(std::sin(i * 0.001), kStart + i);
-        fillAllocations = g_allocations.load() - before;
+        fillAllocations = TestSupport::allocations.load() - before;
     });
     std::printf("ValueOverTime fill to %d samples (curve connected): %.1f M appends/s, %.1f allocations per 1e6 "
                 "appends\n",
@@ -180,9 +112,9 @@ void benchAppend()
     const int appends = 10000000;
     long long steadyAllocations = 0;
     const double steady = best(3, [&]() {
-        const long long before = g_allocations.load();
+        const long long before = TestSupport::allocations.load();
         run(appends);
-        steadyAllocations = g_allocations.load() - before;
+        steadyAllocations = TestSupport::allocations.load() - before;
     });
     std::printf("ValueOverTime steady state, trimmed by %d at %d (curve connected): %.1f M appends/s, %.2f "
                 "allocations per 1e6 appends\n",
@@ -271,9 +203,9 @@ void benchExport(double stepMs, bool withPeer)
     const bool peakReset = resetPeak();
     const double ours = best(3, [&]() {
         text = QByteArray(); // the previous run's text is not part of this run's peak
-        const long long before = g_allocations.load();
+        const long long before = TestSupport::allocations.load();
         text = dialog.oExportData(0, -1);
-        allocations = g_allocations.load() - before;
+        allocations = TestSupport::allocations.load() - before;
     });
     const long long peak = statusKiB("VmHWM");
     char label[64];
@@ -328,12 +260,12 @@ void benchPanel(const char *name, QWidget *chart, const std::function<void(doubl
             QApplication::processEvents();
         append(150.0, t); // redraws now and starts the next 20 ms
         t += 0.01;
-        const long long before = g_allocations.load();
+        const long long before = TestSupport::allocations.load();
         const auto start = Clock::now();
         for (int i = 0; i < perBurst; ++i, t += 0.01)
             append(std::sin(i * 0.01) * 100.0 + 150.0, t);
         held += seconds(start);
-        heldAllocations += g_allocations.load() - before;
+        heldAllocations += TestSupport::allocations.load() - before;
     }
     const int heldCount = bursts * perBurst;
     std::printf("%s append held back by the 20 ms rule: %.0f ns per sample, %.3f allocations per 1e3 samples\n", name,
@@ -348,13 +280,13 @@ void benchPanel(const char *name, QWidget *chart, const std::function<void(doubl
     long long allocations = 0;
     while (seconds(begin) < 2.0) {
         const long long due = (long long)(seconds(begin) * rate);
-        const long long before = g_allocations.load();
+        const long long before = TestSupport::allocations.load();
         const auto start = Clock::now();
         for (; delivered < due; ++delivered, t += 0.01)
             append(std::sin(delivered * 0.0005) * 100.0 + 150.0, t);
         QApplication::processEvents();
         busy += seconds(start);
-        allocations += g_allocations.load() - before;
+        allocations += TestSupport::allocations.load() - before;
         const auto pause = start + std::chrono::milliseconds(1);
         while (Clock::now() < pause) { }
     }
@@ -384,7 +316,7 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    std::printf("Allocations counted: %s\n", UTILS_BENCH_COUNTS);
+    std::printf("Allocations counted: %s\n", UTILS_TESTS_ALLOCATIONS_COUNTED);
     benchAppend();
     // A sensor at 500 Hz: many rows share a second.
     benchExport(2.0, true);

@@ -11,6 +11,8 @@
 
 #include <qwt_plot.h>
 
+#include "allocationcounter.h"
+
 #include <QApplication>
 #include <QLabel>
 #include <QPainter>
@@ -19,39 +21,6 @@
 
 #include <atomic>
 #include <cstdlib>
-
-namespace {
-
-std::atomic<long> g_allocations { 0 };
-
-} // namespace
-
-#if defined(__GLIBC__)
-// Every allocation of the process, the library's and Qt's included, passes here.
-extern "C" {
-void *__libc_malloc(size_t size);
-void *__libc_calloc(size_t count, size_t size);
-void *__libc_realloc(void *pointer, size_t size);
-
-void *malloc(size_t size)
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_malloc(size);
-}
-
-void *calloc(size_t count, size_t size)
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_calloc(count, size);
-}
-
-void *realloc(void *pointer, size_t size)
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_realloc(pointer, size);
-}
-}
-#endif
 
 namespace {
 
@@ -72,7 +41,7 @@ struct Fixture
 void reportAllocations(benchmark::State &state, long start)
 {
     state.counters["allocs"]
-        = benchmark::Counter(double(g_allocations.load() - start), benchmark::Counter::kAvgIterations);
+        = benchmark::Counter(double(TestSupport::allocations.load() - start), benchmark::Counter::kAvgIterations);
 }
 
 void BM_ValueMarkerSetValue(benchmark::State &state)
@@ -82,7 +51,7 @@ void BM_ValueMarkerSetValue(benchmark::State &state)
     QApplication::processEvents();
     double value = 0.0;
     marker.vSetValue(value, 0.0);
-    const long start = g_allocations.load();
+    const long long start = TestSupport::allocations.load();
     for (auto _ : state) {
         value += 0.25;
         marker.vSetValue(value, 1.0);
@@ -101,7 +70,7 @@ void BM_QLabelSetText(benchmark::State &state)
     label.show();
     QApplication::processEvents();
     double value = 0.0;
-    const long start = g_allocations.load();
+    const long long start = TestSupport::allocations.load();
     for (auto _ : state) {
         value += 0.25;
         label.setText(QStringLiteral("Signal %1").arg(value, 3, 'f', 0));
@@ -120,7 +89,7 @@ void BM_ValueMarkerColorSetValueList(benchmark::State &state)
     const QList<int> types = { 0, 0, 0, 2, 2, 2 };
     const QList<double> lists[2] = { { 812, 120, 340, 45, 46, 47 }, { 813, 121, 341, 44, 45, 46 } };
     int turn = 0;
-    const long start = g_allocations.load();
+    const long long start = TestSupport::allocations.load();
     for (auto _ : state) {
         marker.vSetValueList(lists[turn], types);
         turn ^= 1;
@@ -160,7 +129,7 @@ template <typename Marker, typename Feed> void paintFrames(benchmark::State &sta
     double value = 0.0;
     feed(marker, value);
     marker.repaint();
-    const long start = g_allocations.load();
+    const long long start = TestSupport::allocations.load();
     for (auto _ : state) {
         value += 0.25;
         feed(marker, value);
