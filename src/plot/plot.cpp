@@ -43,6 +43,7 @@ struct Plot::Private
     int panMinOffset = 0;
     int panMaxOffset = 0;
     bool enabled = true;
+    bool inLayout = false;
     QPushButton *zoomOutButton = nullptr;
     QPushButton *zoomInButton = nullptr;
     QPushButton *resetZoomButton = nullptr;
@@ -79,6 +80,19 @@ Plot::Plot(QWidget *parent, bool bNoTools)
 }
 
 Plot::~Plot() = default;
+
+void Plot::updateLayout()
+{
+    QwtPlot::updateLayout();
+    // A round that moved the end labels has asked for another one; it runs
+    // here, before anything is drawn, rather than after the next paint. The
+    // guard keeps a layout that does not settle from recursing.
+    if (d->inLayout)
+        return;
+    d->inLayout = true;
+    QCoreApplication::sendPostedEvents(this, QEvent::LayoutRequest);
+    d->inLayout = false;
+}
 
 void Plot::vInitMembers(bool bNoTools)
 {

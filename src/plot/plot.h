@@ -47,6 +47,13 @@ public:
     explicit Plot(QWidget *parent = nullptr, bool bNoTools = false);
     ~Plot() override;
 
+    /*!
+        Lays out axes and canvas until they settle. A new scale moves the labels
+        at the ends of the axes, and the canvas, aligned to the scales, moves
+        with them; a replot must not draw with the maps of the first round.
+    */
+    void updateLayout() override;
+
     //! Creates the tools; with \a bNoTools only the time scale draw and the engine.
     void vInitMembers(bool bNoTools);
 

@@ -637,6 +637,23 @@ private Q_SLOTS:
         QCOMPARE(label, QDateTime::fromMSecsSinceEpoch(1700000000123).toString(format));
     }
 
+    // Two-line date labels at the ends of a new scale move the canvas, which is
+    // aligned to the scales: one replot must leave the maps a second one finds.
+    void oneReplotSettlesTheLayout()
+    {
+        useAxisType(1);
+        Plot *plot = showPlot(m_host, true);
+        m_host->resize(860, 380);
+        plot->setAxisScale(QwtPlot::yLeft, 0.0, 300.0);
+        plot->setAxisScale(QwtPlot::xBottom, 1.7e12 + 3000.0, 1.7e12 + 13000.0);
+        plot->replot();
+        const QwtScaleMap once = plot->canvasMap(QwtPlot::xBottom);
+        plot->replot();
+        const QwtScaleMap twice = plot->canvasMap(QwtPlot::xBottom);
+        QCOMPARE(once.p1(), twice.p1());
+        QCOMPARE(once.p2(), twice.p2());
+    }
+
     // The labels read as QDateTime's text of the value truncated to whole ms, and as the
     // epoch where there is no date; the zones' own rules are tst_localtime's.
     void timeLabelValues_data()
