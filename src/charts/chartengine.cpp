@@ -470,7 +470,12 @@ void ChartEngine::moveTimeLine(const Rules::Window &w)
 
 void ChartEngine::passSelectorOn()
 {
+    // A re-sync after resizing, not the user moving the selection: a chart
+    // that follows the newest sample goes on following it.
+    const bool was = programmatic;
+    programmatic = true;
     q->timeLineRangeUpdated(timeLine->selectionLeft(), timeLine->selectionRight());
+    programmatic = was;
 }
 
 void ChartEngine::setVisibleWindow(double left, double right)
