@@ -23,6 +23,11 @@ CurveFactory::CurveFactory(QwtPlot *plot)
     : QObject(nullptr)
     , d(std::make_unique<Private>())
 {
+    // For queued connections and spies of curveCreated().
+    static const int curveType = qRegisterMetaType<Utils::CustomCurve *>("Utils::CustomCurve*");
+    static const int seriesType = qRegisterMetaType<Utils::ValueOverTime *>("Utils::ValueOverTime*");
+    Q_UNUSED(curveType)
+    Q_UNUSED(seriesType)
     d->plot = plot;
 }
 

@@ -90,6 +90,8 @@ private Q_SLOTS:
         QCOMPARE(factory.poAttachData(&series), curve);
         QCOMPARE(factory.count(), 1);
         QCOMPARE(created.count(), 1);
+        // The arguments travel in a QVariant, as in queued connections.
+        QCOMPARE(created.at(0).at(0).value<Utils::CustomCurve *>(), curve);
         QCOMPARE(plot.itemList(QwtPlotItem::Rtti_PlotCurve).size(), 1);
         QCOMPARE(factory.poCurve(nullptr), nullptr);
         QCOMPARE(factory.poAttachData(nullptr), nullptr);
