@@ -4,8 +4,10 @@
 #include "plot/plotcommon_p.h"
 
 #include <QDebug>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPen>
 #include <QResizeEvent>
 
 #include <algorithm>
@@ -207,6 +209,11 @@ void RangeSelector::paintEvent(QPaintEvent *event)
     Q_UNUSED(event)
     QPainter painter(this);
     painter.fillRect(rect(), QColor(95, 138, 207, 80));
+    if (hasFocus()) {
+        // Where the keys act: a dotted frame inside the rectangle.
+        painter.setPen(QPen(QColor(40, 70, 140), 1, Qt::DotLine));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
 }
 
 void RangeSelector::mouseDoubleClickEvent(QMouseEvent *event)
@@ -217,6 +224,50 @@ void RangeSelector::mouseDoubleClickEvent(QMouseEvent *event)
         return;
     }
     QWidget::mouseDoubleClickEvent(event);
+}
+
+void RangeSelector::keyPressEvent(QKeyEvent *event)
+{
+    const int left = nLeft();
+    const int right = nRight();
+    const int step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
+    int shift = 0;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        shift = -step;
+        break;
+    case Qt::Key_Right:
+        shift = step;
+        break;
+    case Qt::Key_PageUp:
+        shift = -(right - left + 1);
+        break;
+    case Qt::Key_PageDown:
+        shift = right - left + 1;
+        break;
+    case Qt::Key_Home:
+        shift = -left;
+        break;
+    case Qt::Key_End:
+        shift = d->canvasRight() - right;
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (!d->enabled || d->dragging) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    // Flush with the canvas at most, as a drag of the whole rectangle.
+    shift = std::min(std::max(shift, -left), d->canvasRight() - right);
+    if (shift == 0)
+        return;
+    vPlace(left + shift, right + shift);
+    const double l = left + shift;
+    const double r = right + shift;
+    Q_EMIT vRange(l, r);
 }
 
 bool RangeSelector::eventFilter(QObject *watched, QEvent *event)

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class QKeyEvent;
 class QMouseEvent;
 class QPaintEvent;
 class QResizeEvent;
@@ -27,6 +28,11 @@ namespace Utils {
     them into axis values. The rectangle is never narrower than 30 pixels when
     set by vSetRange(); an edge drag stops at 29 (left edge) or 31 (right edge)
     pixels from the other edge.
+
+    With the keyboard focus (a click or Tab gives it), the arrow keys move the
+    rectangle by one pixel (ten with Shift), Page Up and Page Down by its own
+    width, Home and End to the ends of the canvas; each key press is a finished
+    move and emits vRange(). A disabled selector ignores the keys.
 
     When the canvas is resized the pixel edges are kept and the rectangle is
     moved back inside the canvas (keeping its width while it fits); it takes the
@@ -110,6 +116,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     //! A double click with the left button emits rangeSelectorDoubleClicked().
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    //! Moves the rectangle by the arrow, page, Home and End keys.
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void vPlace(int left, int right);

@@ -11,6 +11,7 @@
 #include <QCursor>
 #include <QEvent>
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QResizeEvent>
@@ -545,25 +546,71 @@ void PlotMarker::mouseMoveEvent(QMouseEvent *event)
     }
     event->accept();
     const QPoint inCanvas = mapToParent(event->pos());
-    double newValue = d->value;
-    if (!d->vertical()) {
-        const int top = dragHorizontal(inCanvas.y() - d->pressY);
-        move(x(), top);
-        const int edge = top + valueEdgeOffset(false, d->orientation, height());
-        newValue = d->plot->invTransform(QwtPlot::yLeft, edge);
-    } else {
-        const int left = dragVertical(inCanvas.x() - d->pressX);
-        move(left, y());
-        const int edge = left + valueEdgeOffset(true, d->orientation, width());
-        newValue = d->plot->invTransform(QwtPlot::xBottom, edge);
-    }
-    // The flag clamps although its setter's name suggests allowing: kept on purpose.
-    if (d->negativeClamped && newValue < 0.0)
-        newValue = 0.0;
-    d->value = newValue;
+    d->value = moveTo(d->vertical() ? inCanvas.x() - d->pressX : inCanvas.y() - d->pressY);
     if (d->emitWhileDragging)
         Q_EMIT valueChanged(d->value);
     dragStep(d->value);
+    showTextHint();
+}
+
+double PlotMarker::moveTo(int position)
+{
+    double value = d->value;
+    if (!d->vertical()) {
+        const int top = dragHorizontal(position);
+        move(x(), top);
+        value = d->plot->invTransform(QwtPlot::yLeft, top + valueEdgeOffset(false, d->orientation, height()));
+    } else {
+        const int left = dragVertical(position);
+        move(left, y());
+        value = d->plot->invTransform(QwtPlot::xBottom, left + valueEdgeOffset(true, d->orientation, width()));
+    }
+    // The flag clamps although its setter's name suggests allowing: kept on purpose.
+    if (d->negativeClamped && value < 0.0)
+        value = 0.0;
+    return value;
+}
+
+void PlotMarker::keyPressEvent(QKeyEvent *event)
+{
+    const bool vertical = d->vertical();
+    int step = 0;
+    switch (event->key()) {
+    case Qt::Key_Up:
+        step = vertical ? 0 : -1;
+        break;
+    case Qt::Key_Down:
+        step = vertical ? 0 : 1;
+        break;
+    case Qt::Key_Left:
+        step = vertical ? -1 : 0;
+        break;
+    case Qt::Key_Right:
+        step = vertical ? 1 : 0;
+        break;
+    default:
+        break;
+    }
+    if (step == 0 || !d->moveable || d->dragging || !d->plot) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    if (event->modifiers() & Qt::ShiftModifier)
+        step *= 10;
+    // Each key press is a whole drag: a step, then the value is reported.
+    const QPoint before = pos();
+    const int from = vertical ? x() : y();
+    const double value = moveTo(from + step);
+    const int to = vertical ? x() : y();
+    if ((to - from) * step <= 0) {
+        move(before); // held at a bound: no step back from outside it either
+        return;
+    }
+    d->value = value;
+    dragStep(d->value);
+    Q_EMIT valueChanged(d->value);
+    notify();
     showTextHint();
 }
 

@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 
+class QKeyEvent;
 class QPainter;
 class QwtPlot;
 
@@ -26,7 +27,9 @@ namespace Utils {
     value units can be drawn beside the line (noiseOrientation()).
 
     A user drag is held inside [lower(), upper()]; when it ends, valueChanged() is
-    emitted and the attached observers (ChartItem) are notified. Values set by
+    emitted and the attached observers (ChartItem) are notified. With the keyboard
+    focus, each press of an arrow key along the value axis is such a drag of one
+    pixel (ten with Shift). Values set by
     code emit nothing.
 
     The marker starts hidden; setValue() with a positive value shows it.
@@ -161,6 +164,8 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    //! The arrow keys along the value axis move the marker one pixel (ten with Shift), as a drag would.
+    void keyPressEvent(QKeyEvent *event) override;
     void enterEvent(QEvent *event) override;
     void leaveEvent(QEvent *event) override;
 
@@ -184,6 +189,7 @@ private:
     void paintLook(QPainter &painter, bool band, bool line) const;
     void recomputePixelThickness();
     int dragHorizontal(int top);
+    double moveTo(int position);
     int dragVertical(int left);
 
     Q_DISABLE_COPY(PlotMarker)

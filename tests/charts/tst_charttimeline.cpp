@@ -240,6 +240,47 @@ private Q_SLOTS:
         QCOMPARE(range.last(), (QVariantList { double(left), double(right) }));
     }
 
+    void keys_data()
+    {
+        QTest::addColumn<int>("start"); // left edge of a 201-pixel rectangle on the 400-pixel canvas
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("shift");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<int>("left"); // -1: nothing moved, nothing emitted
+
+        QTest::newRow("right arrow: one pixel") << 100 << int(Qt::Key_Right) << false << true << 101;
+        QTest::newRow("left arrow with Shift: ten") << 100 << int(Qt::Key_Left) << true << true << 90;
+        QTest::newRow("Shift+right near the end: flush") << 195 << int(Qt::Key_Right) << true << true << 199;
+        QTest::newRow("left arrow at the start: nothing") << 0 << int(Qt::Key_Left) << false << true << -1;
+        QTest::newRow("page down: its width, flush") << 100 << int(Qt::Key_PageDown) << false << true << 199;
+        QTest::newRow("page up: its width") << 150 << int(Qt::Key_PageUp) << false << true << 0;
+        QTest::newRow("Home") << 150 << int(Qt::Key_Home) << false << true << 0;
+        QTest::newRow("End") << 20 << int(Qt::Key_End) << false << true << 199;
+        QTest::newRow("another key: nothing") << 100 << int(Qt::Key_A) << false << true << -1;
+        QTest::newRow("disabled: nothing") << 100 << int(Qt::Key_Right) << false << false << -1;
+    }
+
+    void keys()
+    {
+        QFETCH(int, start);
+        QFETCH(int, key);
+        QFETCH(bool, shift);
+        QFETCH(bool, enabled);
+        QFETCH(int, left);
+
+        showSelector();
+        QCOMPARE(m_selector->focusPolicy(), Qt::StrongFocus);
+        m_selector->vSetRange(start, start + 200, false);
+        m_selector->vSetEnabled(enabled);
+        QSignalSpy range(m_selector, SIGNAL(vRange(double, double)));
+        QTest::keyClick(m_selector, Qt::Key(key), shift ? Qt::ShiftModifier : Qt::NoModifier);
+        const int expected = left < 0 ? start : left;
+        QCOMPARE(m_selector->geometry(), QRect(QPoint(expected, 0), QPoint(expected + 200, 59)));
+        QCOMPARE(range.count(), left < 0 ? 0 : 1);
+        if (left >= 0)
+            QCOMPARE(range.at(0), (QVariantList { double(left), double(left + 200) }));
+    }
+
     void followsCanvasResize()
     {
         showSelector();

@@ -291,6 +291,56 @@ private Q_SLOTS:
         QVERIFY(a == b);
     }
 
+    void keys_data()
+    {
+        QTest::addColumn<bool>("vertical");
+        QTest::addColumn<bool>("moveable");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("shift");
+        QTest::addColumn<double>("start");
+        QTest::addColumn<int>("pixels"); // the move on the value axis; 0: nothing moved or reported
+
+        QTest::newRow("up: one pixel") << false << true << int(Qt::Key_Up) << false << 150.0 << -1;
+        QTest::newRow("down with Shift: ten") << false << true << int(Qt::Key_Down) << true << 150.0 << 10;
+        QTest::newRow("left on a horizontal marker: nothing") << false << true << int(Qt::Key_Left) << false << 150.0 << 0;
+        QTest::newRow("not moveable: nothing") << false << false << int(Qt::Key_Up) << false << 150.0 << 0;
+        QTest::newRow("at the upper bound: nothing") << false << true << int(Qt::Key_Up) << false << 200.0 << 0;
+        QTest::newRow("vertical, right: one pixel") << true << true << int(Qt::Key_Right) << false << 500.0 << 1;
+        QTest::newRow("vertical, up: nothing") << true << true << int(Qt::Key_Up) << false << 500.0 << 0;
+    }
+
+    void keys()
+    {
+        QFETCH(bool, vertical);
+        QFETCH(bool, moveable);
+        QFETCH(int, key);
+        QFETCH(bool, shift);
+        QFETCH(double, start);
+        QFETCH(int, pixels);
+
+        setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
+        std::unique_ptr<PlotMarker> marker(vertical ? new Utils::PlotMarkerNoTime(m_plot) : new PlotMarker(m_plot));
+        if (!vertical)
+            marker->setRange(100.0, 200.0);
+        marker->setMoveable(moveable);
+        marker->setValue(start);
+        QCOMPARE(marker->focusPolicy(), Qt::StrongFocus);
+        const QPoint before = marker->pos();
+        QSignalSpy changed(marker.get(), SIGNAL(valueChanged(const double &)));
+        QTest::keyClick(marker.get(), Qt::Key(key), shift ? Qt::ShiftModifier : Qt::NoModifier);
+        QCOMPARE(marker->pos(), before + (vertical ? QPoint(pixels, 0) : QPoint(0, pixels)));
+        QCOMPARE(changed.count(), pixels == 0 ? 0 : 1);
+        if (pixels == 0) {
+            QCOMPARE(marker->value(), start);
+            return;
+        }
+        // The value the line's new pixel shows, as after a drag.
+        const double expected = vertical ? m_plot->invTransform(QwtPlot::xBottom, marker->x())
+                                         : m_plot->invTransform(QwtPlot::yLeft, marker->y() + marker->height());
+        QVERIFY2(near(marker->value(), expected), qPrintable(QString::number(marker->value())));
+        QCOMPARE(changed.first().first().toDouble(), marker->value());
+    }
+
     void noTimeMarker()
     {
         setView(*m_plot, QwtPlot::xBottom, 0.0, 1000.0);
