@@ -20,6 +20,7 @@
 #include <chrono>
 #include <limits>
 
+using PlotTest::samples;
 using TestSupport::colorDistance;
 using Utils::ColorChart;
 using Utils::LevelCalibrationPrompt;
@@ -28,14 +29,6 @@ using Utils::SimpleTimeChart;
 namespace {
 
 const double kT0 = 1.7e12;
-
-QVector<QPointF> samples(const Utils::ValueOverTime *series)
-{
-    QVector<QPointF> points;
-    for (int i = 0; series && i < series->size(); ++i)
-        points.append(QPointF(series->pxData()[i], series->pyData()[i]));
-    return points;
-}
 
 double nowMs()
 {

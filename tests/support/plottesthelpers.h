@@ -5,6 +5,7 @@
 #include "mouseevents.h"
 #include "testhelpers.h"
 
+#include <charts/valueovertime.h>
 #include <plot/plot.h>
 #include <plot/timescaledraw.h>
 
@@ -119,6 +120,15 @@ inline double majorStep(const QwtPlot &plot, int axis)
 inline bool near(double a, double b, double tolerance = 1e-9)
 {
     return std::fabs(a - b) <= tolerance * std::max(1.0, std::max(std::fabs(a), std::fabs(b)));
+}
+
+//! A series' samples as (time, value); none for a null series.
+inline QVector<QPointF> samples(const Utils::ValueOverTime *series)
+{
+    QVector<QPointF> points;
+    for (int i = 0; series && i < series->size(); ++i)
+        points.append(QPointF(series->pxData()[i], series->pyData()[i]));
+    return points;
 }
 
 } // namespace PlotTest

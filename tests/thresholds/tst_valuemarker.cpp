@@ -306,8 +306,6 @@ private Q_SLOTS:
         QCOMPARE(counter.count, 1);
         QCOMPARE(item->draws, 0);
         QCOMPARE(marker->labelText(), QStringLiteral("Signal 1000"));
-        QCOMPARE(marker->s64Value(), 1000.0);
-        QCOMPARE(marker->getSecondValue(), -1000.0);
     }
 
     void wordsFollowTheApplicationLanguage()
