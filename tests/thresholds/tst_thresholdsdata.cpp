@@ -102,10 +102,9 @@ private Q_SLOTS:
             QCOMPARE(data.noise(component), -1);
             QCOMPARE(data.toHexString(component), std::string("0000000000000000"));
         }
-        // Setters notify even when nothing was stored.
-        QCOMPARE(observer.calls, 9);
         // Found by the fuzzer: a negative component with a short string.
         data.setFromHexString(C(-11), "0032zz1400200");
+        // Setters notify even when nothing was stored; a string of the wrong length does not.
         QCOMPARE(observer.calls, 9);
         for (int c = C::Hue; c <= C::Extra3; ++c)
             QCOMPARE(data.toHexString(C(c)), std::string("0000000000000000"));

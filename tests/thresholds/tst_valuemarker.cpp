@@ -196,12 +196,10 @@ private Q_SLOTS:
     {
         auto *marker = new ValueMarkerColor(plot.get());
         marker->vSetValueColor({ 1, 2.5, 3, 4 }, QStringLiteral("Red"));
-        const QStringList reading = { "1", "2.5", "3", "4" };
-        QCOMPARE(marker->valueTexts(), reading);
         // A single value and an empty reading are written but not kept.
         marker->vSetValueColor({ 9 }, QStringLiteral("Red"));
         marker->vSetValueColor({}, QStringLiteral("Red"));
-        QCOMPARE(marker->valueTexts(), reading);
+        QCOMPARE(marker->valueTexts(), QStringList({ "1", "2.5", "3", "4" }));
         marker->vSetValueColor({ 7, 8 }, QString());
         QCOMPARE(marker->valueTexts(), QStringList({ "7", "8" }));
     }

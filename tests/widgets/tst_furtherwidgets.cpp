@@ -160,7 +160,6 @@ private Q_SLOTS:
 
         // A click chooses, and gives the selector the focus for the keys.
         QTest::mouseClick(button(3), Qt::LeftButton);
-        QCOMPARE(selector.output(), 3);
         QVERIFY(selector.hasFocus());
         QTest::mouseClick(button(3), Qt::LeftButton);
         QCOMPARE(changed.count(), 1);
