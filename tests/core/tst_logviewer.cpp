@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QPlainTextEdit>
 #include <QtTest>

@@ -8,13 +8,7 @@
 #include <qwt_plot_curve.h>
 
 #include <QAbstractButton>
-#include <QDate>
-#include <QDir>
 #include <QPrintDialog>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <memory>

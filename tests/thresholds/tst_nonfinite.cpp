@@ -15,7 +15,6 @@
 #include "thresholds/thresholdwindowwidgetgeneric.h"
 #include "thresholds/thresholdwindowwidgetuniversal.h"
 
-#include <QRegularExpression>
 #include <QtTest>
 
 #include <climits>

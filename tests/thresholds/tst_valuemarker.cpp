@@ -7,8 +7,6 @@
 #include <qwt_plot.h>
 #include <qwt_plot_item.h>
 
-#include <QHash>
-#include <QTranslator>
 #include <QtTest>
 
 #include <memory>

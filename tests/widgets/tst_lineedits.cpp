@@ -5,7 +5,6 @@
 #include "widgets/iconbutton.h"
 
 #include <QMenu>
-#include <QPropertyAnimation>
 #include <QtTest>
 
 using Utils::FancyLineEdit;
