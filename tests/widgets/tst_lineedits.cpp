@@ -64,7 +64,6 @@ private Q_SLOTS:
         edit.show();
         QSignalSpy changed(&edit, &FilterLineEdit::filterChanged);
         QTest::keyClicks(&edit, QStringLiteral("warn"));
-        QCOMPARE(changed.count(), 4);
         edit.setText(QStringLiteral("warn"));
         QCOMPARE(changed.count(), 4);
         QTest::mouseClick(edit.button(FancyLineEdit::Right), Qt::LeftButton);
