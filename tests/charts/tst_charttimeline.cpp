@@ -234,8 +234,7 @@ private Q_SLOTS:
         m_selector->vUpdateWhileMoving(whileMoving);
         QSignalSpy range(m_selector, SIGNAL(vRange(double, double)));
         PlotTest::drag(m_canvas.get(), Qt::LeftButton, QPoint(from, 30), QPoint(to, 30)); // four moves
-        QCOMPARE(m_selector->nLeft(), left);
-        QCOMPARE(m_selector->nRight(), right);
+        QCOMPARE(qMakePair(m_selector->nLeft(), m_selector->nRight()), qMakePair(left, right));
         QCOMPARE(range.count(), whileMoving ? 5 : 1);
         QCOMPARE(range.last(), (QVariantList { double(left), double(right) }));
     }
@@ -527,8 +526,7 @@ private Q_SLOTS:
             // By the overview, under a selection that keeps its pixels: the
             // labels change, their room does not, so the canvas stays in place.
             QVERIFY(std::fabs(newSpan - span * factor) < 1e-2);
-            QCOMPARE(selector->geometry().left(), 100);
-            QCOMPARE(selector->geometry().right(), 200);
+            QCOMPARE(qMakePair(selector->geometry().left(), selector->geometry().right()), qMakePair(100, 200));
             QCOMPARE(timeLine->poPlot()->canvas()->geometry(), canvasBefore);
         } else {
             // By the selection, over an overview that stays.

@@ -118,8 +118,7 @@ private Q_SLOTS:
         m_magnifier->vSetMaxLimit(10.0, 20.0);
         QTest::ignoreMessage(QtDebugMsg, "PlotMagnifier::vSetMaxLimit - Incorrect assignament");
         m_magnifier->vSetMaxLimit(30.0, 20.0);
-        QCOMPARE(m_magnifier->lowerLimit(), 10.0);
-        QCOMPARE(m_magnifier->upperLimit(), 20.0);
+        QCOMPARE(qMakePair(m_magnifier->lowerLimit(), m_magnifier->upperLimit()), qMakePair(10.0, 20.0));
     }
 
 private:

@@ -48,8 +48,7 @@ private Q_SLOTS:
         PlotMarker marker(m_plot, PlotMarker::ModeThreshold);
         QCOMPARE(marker.parentWidget(), m_plot->canvas());
         QVERIFY(!marker.isVisible());
-        QCOMPARE(marker.lower(), 20.0);
-        QCOMPARE(marker.upper(), 220.0);
+        QCOMPARE(qMakePair(marker.lower(), marker.upper()), qMakePair(20.0, 220.0));
         QCOMPARE(marker.pen().color(), QColor(200, 0, 0, 50));
         QCOMPARE(marker.pen().style(), Qt::DashDotDotLine);
         QCOMPARE(marker.pen().width(), 2);
@@ -343,8 +342,7 @@ private Q_SLOTS:
         Utils::PlotMarkerNoTime marker(m_plot);
         QCOMPARE(marker.pen().color(), QColor(0, 0, 255, 40));
         QCOMPARE(marker.pen().width(), 4);
-        QCOMPARE(marker.lower(1), 0.0);
-        QCOMPARE(marker.upper(1), 1000.0);
+        QCOMPARE(qMakePair(marker.lower(1), marker.upper(1)), qMakePair(0.0, 1000.0));
         QCOMPARE(marker.lower(2), -1.0); // out of range
         marker.setRange(1, 200.0, 800.0);
         marker.setLeftBound(0, 100.0);

@@ -97,8 +97,7 @@ private Q_SLOTS:
             data.setHigh(component, 20.0, false, false);
             data.setThresholdConstant(component, 5);
             data.setFromHexString(component, "0123456789ABCDEF");
-            QCOMPARE(data.low(component), -1.0);
-            QCOMPARE(data.high(component), -1.0);
+            QCOMPARE(qMakePair(data.low(component), data.high(component)), qMakePair(-1.0, -1.0));
             QCOMPARE(data.noise(component), -1);
             QCOMPARE(data.toHexString(component), std::string("0000000000000000"));
         }
@@ -203,8 +202,7 @@ private Q_SLOTS:
         data.setThresholdConstant(c.component, c.constant);
         data.setFromHexString(c.component, c.text.toStdString());
         QCOMPARE(observer.calls, 1);
-        QCOMPARE(data.low(c.component), c.low);
-        QCOMPARE(data.high(c.component), c.high);
+        QCOMPARE(qMakePair(data.low(c.component), data.high(c.component)), qMakePair(c.low, c.high));
         QCOMPARE(data.noise(noiseSlot(c.component)), c.noise);
     }
 

@@ -96,8 +96,7 @@ private Q_SLOTS:
         data.setThresholdConstant(index, 1);
         data.setHasWindow(index, true);
         data.setFromValues(index, 1, 2, 3, 4);
-        QCOMPARE(data.low(index), -1.0);
-        QCOMPARE(data.high(index), -1.0);
+        QCOMPARE(qMakePair(data.low(index), data.high(index)), qMakePair(-1.0, -1.0));
         QCOMPARE(data.midle(index), -1.0);
         QCOMPARE(data.midle1(index), -1.0);
         QCOMPARE(data.noise(index), -1);

@@ -79,8 +79,7 @@ private Q_SLOTS:
     void construction()
     {
         // The upper mark may go from minDifference above the scale's bottom to its top.
-        QCOMPARE(upperMark()->lower(), 1.0);
-        QCOMPARE(upperMark()->upper(), 100.0);
+        QCOMPARE(qMakePair(upperMark()->lower(), upperMark()->upper()), qMakePair(1.0, 100.0));
         QVERIFY(!window->poUpperZone()->isVisible() && !window->poLowerZone()->isVisible());
     }
 
