@@ -211,15 +211,13 @@ private Q_SLOTS:
         ThresholdsData data;
         // Red high 510, low 0: hue high of (255, 0, 0) is 0; black has no hue (-1).
         data.setFromHexString(C::Red, "000001FE00000000");
-        QCOMPARE(data.high(C::Hue), 0.0);
-        QCOMPARE(data.low(C::Hue), -1.0);
+        QCOMPARE(qMakePair(data.low(C::Hue), data.high(C::Hue)), qMakePair(-1.0, 0.0));
         data.setFromHexString(C::Green, "000001FE00000000");
         QCOMPARE(data.high(C::Hue), 60.0);
         // A hue read for Hue itself (200 / 100) is replaced by the hue of the stored
         // colour limits; its noise (0 - 200) is kept.
         data.setFromHexString(C::Hue, "000000C800640000");
-        QCOMPARE(data.high(C::Hue), 60.0);
-        QCOMPARE(data.low(C::Hue), -1.0);
+        QCOMPARE(qMakePair(data.low(C::Hue), data.high(C::Hue)), qMakePair(-1.0, 60.0));
         QCOMPARE(data.noise(C::Hue), -200);
         // Saturation and Lightness leave the hue alone.
         data.setHigh(C::Hue, 33, false, false);
