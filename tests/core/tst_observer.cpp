@@ -101,13 +101,12 @@ private Q_SLOTS:
         const std::string binary("a\0b", 3);
         Utils::DataEvent copy(event);
         event.setData(binary);
-        QCOMPARE(event.data(), binary); // embedded zero bytes survive
         QCOMPARE(copy.data(), std::string("abc"));
 
         Utils::DataEvent assigned(std::string("x"), QEvent::User);
         assigned = event;
         QCOMPARE(assigned.type(), type);
-        QCOMPARE(assigned.data(), binary);
+        QCOMPARE(assigned.data(), binary); // embedded zero bytes survive
     }
 };
 

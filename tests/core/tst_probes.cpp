@@ -121,7 +121,6 @@ private Q_SLOTS:
         QTest::qSleep(20);
         UtilsUInt64 stop = 0;
         vStopTimer(&stop);
-        QVERIFY(stop > start);
         const quint32 ms = GetTimeMs(start, stop);
         QVERIFY2(ms >= 19 && ms < 10000, qPrintable(QString::number(ms)));
 
