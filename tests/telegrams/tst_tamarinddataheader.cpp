@@ -50,11 +50,9 @@ private Q_SLOTS:
         TamarindDataHeader header(std::string("ignored text"));
         QCOMPARE(spaced(header.encode()), QByteArray("24 00 01 00 20 00 00 00 00 00 00 00 00 00 00 00 "
                                                      "00 00 00 00 00 00 00 00 00 00 00 00 05 00 2E 3B"));
+        // Every field at its offset, little-endian, and in the checksum.
         header.vSetCommand0(10);
         header.vSetCommand1(7);
-        QCOMPARE(spaced(header.encode()), QByteArray("24 00 01 00 20 00 00 00 00 00 00 00 0A 07 00 00 "
-                                                     "00 00 00 00 00 00 00 00 00 00 00 00 08 00 2E 3B"));
-        // Every field at its offset, little-endian, and in the checksum.
         header.vSetMsgID(9);
         header.vSetCommand1(5);
         header.vSetParameter1(0x1234);
