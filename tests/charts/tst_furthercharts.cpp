@@ -260,8 +260,6 @@ private Q_SLOTS:
         chart.vSetWhiteLevel(white[0], white[1], white[2]);
         QCOMPARE(
             levels.count(), int(black != QList<double> { 0, 0, 0 }) + int(white != QList<double> { 255, 255, 255 }));
-        QCOMPARE(chart.oBlackLevel(), black);
-        QCOMPARE(chart.oWhiteLevel(), white);
 
         chart.vAppendData(reading[0], reading[1], reading[2], true, kT0);
         Utils::RgbRenderer *renderer = chart.poRenderer();
