@@ -266,14 +266,12 @@ private Q_SLOTS:
         window->setLowerMark(30);
         window->setUpperMark(70);
         window->setOfflineThresholds(80, 10, 95, 5);
-        QCOMPARE(window->poUpperZone()->lowerValue(), 80.0);
-        QCOMPARE(window->poUpperZone()->upperValue(), 95.0);
-        QCOMPARE(window->poLowerZone()->lowerValue(), 5.0);
-        QCOMPARE(window->poLowerZone()->upperValue(), 10.0);
+        const auto bounds = [](const Utils::CustomWidget *z) { return qMakePair(z->lowerValue(), z->upperValue()); };
+        QCOMPARE(bounds(window->poUpperZone()), qMakePair(80.0, 95.0));
+        QCOMPARE(bounds(window->poLowerZone()), qMakePair(5.0, 10.0));
 
         window->setBothWindowZoneVisible(false);
-        QCOMPARE(window->poLowerZone()->lowerValue(), 50000.0);
-        QCOMPARE(window->poLowerZone()->upperValue(), 50001.0);
+        QCOMPARE(bounds(window->poLowerZone()), qMakePair(50000.0, 50001.0));
         QVERIFY(window->poLowerZone()->geometry().bottom() < 0); // far above the canvas
         window->updateZoneGeometry();
         QVERIFY(!window->poUpperZone()->isVisible() && !window->poLowerZone()->isVisible());
