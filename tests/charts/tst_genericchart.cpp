@@ -21,6 +21,7 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -399,8 +400,17 @@ private Q_SLOTS:
         GenericChartMultiList list(1);
         list.vAppendDataMultipleCurves(0, { 5.0, 6.0 }, { 2, 0 }, { Qt::red, Qt::blue }, true, kT0, QString());
         list.vAppendDataMultipleCurves(0, { 7.0 }, { 2 }, { Qt::red }, true, kT0 + 20000.0, QString());
-        // No break points in the list chart, even after a pause.
+        // No break points in the list chart, even after a pause: the curves hold the values alone.
         QCOMPARE(samples(list.getData(0)), (QVector<QPointF> { { kT0, 6.0 } }));
+        list.doUpdate();
+        QVector<double> ys;
+        for (const QwtPlotItem *item : list.poPlot(0)->itemList(QwtPlotItem::Rtti_PlotCurve)) {
+            const auto *curve = static_cast<const QwtPlotCurve *>(item);
+            for (size_t i = 0; i < curve->dataSize(); ++i)
+                ys << curve->sample(int(i)).y();
+        }
+        std::sort(ys.begin(), ys.end());
+        QCOMPARE(ys, (QVector<double> { 5.0, 6.0, 7.0 }));
     }
 
     void textFormRoundTrip()
