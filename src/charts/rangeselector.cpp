@@ -228,6 +228,10 @@ void RangeSelector::mouseDoubleClickEvent(QMouseEvent *event)
 
 void RangeSelector::keyPressEvent(QKeyEvent *event)
 {
+    if (!d->enabled || d->dragging) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
     const int left = nLeft();
     const int right = nRight();
     const int step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
@@ -252,10 +256,6 @@ void RangeSelector::keyPressEvent(QKeyEvent *event)
         shift = d->canvasRight() - right;
         break;
     default:
-        QWidget::keyPressEvent(event);
-        return;
-    }
-    if (!d->enabled || d->dragging) {
         QWidget::keyPressEvent(event);
         return;
     }
